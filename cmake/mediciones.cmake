@@ -1,0 +1,22 @@
+# SPDX-License-Identifier: MIT
+# benchmarks/*.cpp: one Google Benchmark program each; *_qt.cpp may use the widget library too.
+
+file(GLOB fuentes CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/benchmarks/*.cpp)
+foreach(fuente IN LISTS fuentes)
+  get_filename_component(nombre ${fuente} NAME_WE)
+  set(enlaces tabla_control tabla_headless)
+  if(nombre MATCHES "_qt$")
+    if(NOT TARGET tabla_qt)
+      continue()
+    endif()
+    list(APPEND enlaces tabla_qt Qt6::Gui)
+  endif()
+  add_executable(medicion_${nombre} ${fuente})
+  tabla_comun(medicion_${nombre})
+  target_link_libraries(medicion_${nombre} PRIVATE benchmark::benchmark)
+  foreach(otro IN LISTS enlaces)
+    if(TARGET ${otro})
+      target_link_libraries(medicion_${nombre} PRIVATE ${otro})
+    endif()
+  endforeach()
+endforeach()

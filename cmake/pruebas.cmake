@@ -1,0 +1,81 @@
+# SPDX-License-Identifier: MIT
+# tests/<folder>/*.cpp: one GoogleTest program prueba_<folder> each; tests/qt/*.cpp: one QTest
+# program each; tests/guion/: the runner of the scenario scripts, for both; and every header alone.
+
+include(GoogleTest)
+set(TABLA_TESTS ${PROJECT_SOURCE_DIR}/tests)
+set(TABLA_RUNTIME ${PROJECT_BINARY_DIR}/runtime)
+file(MAKE_DIRECTORY ${TABLA_RUNTIME} ${PROJECT_BINARY_DIR}/qtest)
+file(CHMOD ${TABLA_RUNTIME} PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+
+# tabla_prueba(<target> <links>...): what every test program has; missing targets are left out.
+function(tabla_prueba objetivo)
+  tabla_comun(${objetivo})
+  tabla_ruta_incluye(ruta ${TABLA_TESTS} tests)
+  target_include_directories(${objetivo} PRIVATE ${ruta})
+  target_compile_definitions(${objetivo} PRIVATE "TABLA_DIR_PRUEBAS=\"${TABLA_TESTS}\"")
+  foreach(otro IN LISTS ARGN)
+    if(TARGET ${otro})
+      target_link_libraries(${objetivo} PRIVATE ${otro})
+    endif()
+  endforeach()
+endfunction()
+
+# The runner that the headless and the Qt scenario tests share.
+file(GLOB fuentes CONFIGURE_DEPENDS ${TABLA_TESTS}/guion/*.cpp)
+if(fuentes)
+  add_library(tabla_guion STATIC ${fuentes})
+  tabla_prueba(tabla_guion tabla_control tabla_headless)
+  target_link_libraries(tabla_guion PUBLIC tabla_control tabla_headless)
+endif()
+
+foreach(carpeta base platform core colours editing clipboard files column_editor control headless escenarios)
+  file(GLOB fuentes CONFIGURE_DEPENDS ${TABLA_TESTS}/${carpeta}/*.cpp)
+  if(NOT fuentes)
+    continue()
+  endif()
+  set(enlaces tabla_${carpeta} tabla_headless)
+  if(carpeta STREQUAL "escenarios")
+    set(enlaces tabla_guion tabla_control tabla_headless)
+  endif()
+  add_executable(prueba_${carpeta} ${fuentes})
+  tabla_prueba(prueba_${carpeta} ${enlaces} GTest::gtest_main GTest::gmock)
+  gtest_discover_tests(prueba_${carpeta} TEST_PREFIX ${carpeta}. DISCOVERY_MODE PRE_TEST
+    DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120 ENVIRONMENT "LC_ALL=C.UTF-8")
+endforeach()
+
+if(TARGET tabla_qt)
+  file(GLOB programas CONFIGURE_DEPENDS ${TABLA_TESTS}/qt/*.cpp)
+  foreach(fuente IN LISTS programas)
+    get_filename_component(nombre ${fuente} NAME_WE)
+    set(objetivo prueba_qt_${nombre})
+    add_executable(${objetivo} ${fuente})
+    set_target_properties(${objetivo} PROPERTIES AUTOMOC ON)
+    tabla_prueba(${objetivo} tabla_guion tabla_qt tabla_headless Qt6::Test)
+    # The report file is what scripts/cuenta counts the single tests from.
+    add_test(NAME qt.${nombre} COMMAND ${objetivo}
+      -o ${PROJECT_BINARY_DIR}/qtest/${nombre}.txt,txt -o -,txt)
+    set_tests_properties(qt.${nombre} PROPERTIES LABELS qt TIMEOUT 300 ENVIRONMENT
+      "QT_QPA_PLATFORM=offscreen;QT_QPA_UPDATE_IDLE_TIME=0;XDG_RUNTIME_DIR=${TABLA_RUNTIME};LC_ALL=C.UTF-8")
+  endforeach()
+endif()
+
+# Every header compiles alone: one generated source each, with the include paths of its folder.
+if(TABLA_CABECERAS)
+  get_property(carpetas GLOBAL PROPERTY TABLA_CARPETAS)
+  foreach(carpeta IN LISTS carpetas)
+    file(GLOB cabeceras CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/${carpeta}/*.h)
+    set(solas)
+    foreach(cabecera IN LISTS cabeceras)
+      string(REPLACE "/" "_" nombre ${cabecera})
+      set(sola ${PROJECT_BINARY_DIR}/solas/${nombre}.cpp)
+      file(CONFIGURE OUTPUT ${sola} CONTENT "#include \"${cabecera}\"\n#include \"${cabecera}\"\n")
+      list(APPEND solas ${sola})
+    endforeach()
+    if(solas)
+      add_library(cabeceras_${carpeta} OBJECT ${solas})
+      tabla_comun(cabeceras_${carpeta})
+      target_link_libraries(cabeceras_${carpeta} PRIVATE tabla_${carpeta})
+    endif()
+  endforeach()
+endif()
