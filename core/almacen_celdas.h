@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+// AlmacenCeldas: the texts of the grid, up to a few tens of columns by millions of rows.
+//
+// Rows stand packed as runs of bytes in chunks of up to FILAS_POR_TROZO rows: one length byte a cell,
+// then the texts; texts of LARGO bytes and more stand apart. Trailing empty cells and empty rows take
+// nothing. Chunks stand behind an index of their first rows, so a write touches one chunk and a row
+// inserted or removed moves one chunk's bytes and the index, never the table. Chunks grow in blocks and
+// never by doubling. Cost: read and write O(1) near the last place used, else O(log chunks); insert and
+// remove O(chunk + chunks).
+//
+// Row numbers: the text of column 0 of a data row is its own row number, derived and not stored, unless
+// something else was written there. A row made by `inserta` or `pon_filas` starts without number.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Qlt4_Tabla {
+
+class AlmacenCeldas {
+public:
+    AlmacenCeldas();
+    ~AlmacenCeldas();
+    AlmacenCeldas(const AlmacenCeldas&) = delete;
+    AlmacenCeldas& operator=(const AlmacenCeldas&) = delete;
+
+    [[nodiscard]] int filas() const;
+    [[nodiscard]] int columnas() const;
+    /// Grows with empty, unnumbered rows at the end or drops rows there. n >= 0.
+    void pon_filas(int n);
+    /// Grows with empty columns at the end or drops columns there. n >= 0.
+    void pon_columnas(int n);
+
+    /// The text of a cell inside the grid (not checked). The view holds until the table changes or the
+    /// text of another derived row number is asked for.
+    [[nodiscard]] std::string_view texto(int fila, int col) const;
+    void pon_texto(int fila, int col, std::string_view texto);
+    /// Replaces a whole row from column `col` on by `textos`, in one go; cells beyond them stay.
+    void pon_fila(int fila, int col, std::span<const std::string_view> textos);
+    /// Rewrites column `col` of rows `desde`..`hasta`, a chunk at a time: `cambia(fila, texto, nuevo)`
+    /// returns true when the cell takes the text it put into `nuevo`, false to leave it. If it throws,
+    /// the rows before stay rewritten and nothing is lost.
+    void transforma(int col, int desde, int hasta,
+        const std::function<bool(int, std::string_view, std::string&)>& cambia);
+    /// Are the texts of two cells equal? Safe for two row numbers.
+    [[nodiscard]] bool iguales(int fila1, int col1, int fila2, int col2) const;
+
+    /// Inserts `n` empty, unnumbered rows before row `fila` (0..filas()).
+    void inserta(int fila, int n);
+    void borra(int fila, int n);
+    /// Removes all rows whose index (ascending, no doubles) is in `filas`, in one pass over the chunks.
+    void borra_varias(std::span<const int> filas);
+    /// Gives every row from 1 on its own number as text of column 0. Cheap when none was overwritten.
+    void numera();
+
+    /// Text colour of a cell, 0x00BBGGRR; 0 when never set.
+    [[nodiscard]] std::int32_t color_texto(int fila, int col) const;
+    /// Sets it in a rectangle (inclusive, ascending); 0 frees what was stored.
+    void pon_color_texto(int fila1, int col1, int fila2, int col2, std::int32_t color);
+    /// Background colour of a cell; 0 when never set: ask `tiene_fondo` to tell it from black.
+    [[nodiscard]] std::int32_t color_fondo(int fila, int col) const;
+    [[nodiscard]] bool tiene_fondo(int fila, int col) const;
+    void pon_color_fondo(int fila1, int col1, int fila2, int col2, std::int32_t color);
+
+    /// Own height of a row in twips, or -1.
+    [[nodiscard]] int alto(int fila) const;
+    void pon_alto(int fila, int twips);
+    /// Any row with a height of its own?
+    [[nodiscard]] bool hay_altos() const;
+
+    /// Bytes held for the cells, index and slack included: for tests of size.
+    [[nodiscard]] std::size_t bytes() const;
+
+private:
+    struct Interior;
+    std::unique_ptr<Interior> yo_;
+};
+
+} // namespace Qlt4_Tabla

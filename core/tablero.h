@@ -1,0 +1,199 @@
+// SPDX-License-Identifier: MIT
+// Tablero: the grid. It holds the whole state of the table that is seen: texts, colours, pictures,
+// widths, heights, merges, the current cell and the selection, the top row. Views draw from it and are
+// told of changes (VistaTablero). It knows cells, not rules: formats, editing and commands stand above.
+//
+// Rows and columns are 0-based; row 0 is the header, column 0 the row numbers; both are ordinary cells.
+// The selection is the rectangle between (Row, Col) and (RowSel, ColSel), inclusive, in either order.
+// Cells outside the grid: error 9. More than 2^28 cells, or no memory: error 7 before any change.
+// Geometry (places on the window) is in core/geometria.h, merging in core/fusion.h.
+#pragma once
+
+#include "base/imagen.h"
+#include "core/almacen_celdas.h"
+#include "platform/vista_tablero.h"
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Qlt4_Tabla {
+
+/// Alignment codes of a column: always centred vertically.
+enum class AlineacionCelda : int { Izquierda = 1, Centro = 4, Derecha = 7 };
+
+/// Do the colours of the current cell go to it alone or to the whole selection?
+enum class Relleno { Celda, Seleccion };
+
+/// What the user's clicks select.
+enum class ModoSeleccion { Libre, PorFilas };
+
+/// The largest number of cells of one grid.
+inline constexpr std::int64_t MAX_CELDAS = std::int64_t{1} << 28;
+
+/// A rectangle of cells, corners inclusive, ascending.
+struct Bloque {
+    int fila1 = 0;
+    int col1 = 0;
+    int fila2 = 0;
+    int col2 = 0;
+    friend constexpr bool operator==(const Bloque&, const Bloque&) = default;
+};
+
+class Tablero {
+public:
+    explicit Tablero(VistaTablero& vista);
+
+    // Counts. Growing adds empty rows or columns at the end and never moves the current cell; shrinking
+    // drops them and clamps current cell, selection and top row (row 0 when only the header is left).
+    [[nodiscard]] int Rows() const { return almacen_.filas(); }
+
+    void Rows(int n);
+
+    [[nodiscard]] int Cols() const { return almacen_.columnas(); }
+
+    void Cols(int n);
+    /// Empty rows before `fila` (0..Rows). The current cell keeps its index.
+    void inserta_filas(int fila, int n);
+    /// Removes rows; the current row keeps its index, clamped.
+    void borra_filas(int fila, int n);
+    /// The same for any rows (ascending indexes) in one pass.
+    void borra_varias_filas(std::span<const int> filas);
+    /// Column 0 of every data row takes the row's number.
+    void numera_filas();
+
+    // Texts. The view holds until the next change of the grid or the next row number asked for.
+    [[nodiscard]] std::string_view TextMatrix(int fila, int col) const;
+    void TextMatrix(int fila, int col, std::string_view texto);
+    /// Writes neighbouring cells of one row from `col` on, with one notice.
+    void pon_fila(int fila, int col, std::span<const std::string_view> textos);
+    /// Rewrites a column's data cells in one pass and with one notice; see AlmacenCeldas::transforma.
+    void transforma_columna(int col, int desde, int hasta,
+        const std::function<bool(int, std::string_view, std::string&)>& cambia);
+
+    // The current cell and the far corner. Row moves RowSel with it, Col moves ColSel.
+    [[nodiscard]] int Row() const { return fila_; }
+
+    [[nodiscard]] int Col() const { return col_; }
+
+    [[nodiscard]] int RowSel() const { return fila_sel_; }
+
+    [[nodiscard]] int ColSel() const { return col_sel_; }
+
+    void Row(int fila);
+    void Col(int col);
+    void RowSel(int fila);
+    void ColSel(int col);
+    /// Sets all four in one step and with one notice.
+    void selecciona(int fila, int col, int fila_sel, int col_sel);
+    /// The selected rectangle, ascending.
+    [[nodiscard]] Bloque seleccion() const;
+
+    [[nodiscard]] ModoSeleccion modo_seleccion() const { return modo_; }
+
+    void modo_seleccion(ModoSeleccion modo);
+
+    /// The first data row shown; clamps to 1..Rows - 1 (1 on a header-only table).
+    [[nodiscard]] int TopRow() const { return fila_superior_; }
+
+    void TopRow(int fila);
+
+    /// Twips that the data columns are scrolled to the left; clamps to what the widths and the view allow.
+    [[nodiscard]] int desplazamiento() const { return desplazamiento_; }
+
+    void desplazamiento(int twips);
+    /// The size of the window that shows the grid, header included; the front end tells it.
+    void pon_vista(int ancho, int alto);
+
+    [[nodiscard]] int ancho_vista() const { return ancho_vista_; }
+
+    [[nodiscard]] int alto_vista() const { return alto_vista_; }
+
+    /// Width of a column in twips, as set; a negative one is kept and shows as 0 (`ancho_visible`).
+    [[nodiscard]] int ColWidth(int col) const;
+    void ColWidth(int col, int twips);
+    [[nodiscard]] int ancho_visible(int col) const;
+    [[nodiscard]] AlineacionCelda ColAlignment(int col) const;
+    void ColAlignment(int col, AlineacionCelda alineacion);
+    /// Height of a row in twips: its own, else the one of all rows.
+    [[nodiscard]] int RowHeight(int fila) const;
+    void RowHeight(int fila, int twips);
+
+    /// Height of rows without one of their own (the front end sets it from its font; starts at 300).
+    [[nodiscard]] int alto_normal() const { return alto_normal_; }
+
+    void alto_normal(int twips);
+
+    [[nodiscard]] bool hay_altos() const { return almacen_.hay_altos(); }
+
+    /// Header texts, alignments and texts of column 0 in one string: "|" separates columns from column 0
+    /// on; a leading "<", "^" or ">" aligns the column; the rest, blanks included, is the header text and
+    /// makes the width (120 twips a character); ";" begins the texts of column 0 from row 1 on. Columns
+    /// and rows are added where there are fewer, never removed. Get: the string as last set.
+    [[nodiscard]] const std::string& FormatString() const { return cadena_formato_; }
+
+    void FormatString(std::string_view cadena);
+
+    // Colours, 0x00BBGGRR or a system colour. Background 0 of a cell never set is no colour; an explicit 0
+    // is black.
+    [[nodiscard]] std::int32_t CellForeColor() const { return color_texto(fila_, col_); }
+
+    void CellForeColor(std::int32_t color);
+
+    [[nodiscard]] std::int32_t CellBackColor() const { return color_fondo(fila_, col_); }
+
+    void CellBackColor(std::int32_t color);
+
+    [[nodiscard]] Relleno FillStyle() const { return relleno_; }
+
+    void FillStyle(Relleno relleno) { relleno_ = relleno; }
+
+    [[nodiscard]] std::int32_t color_texto(int fila, int col) const;
+    void color_texto(const Bloque& bloque, std::int32_t color);
+    [[nodiscard]] std::int32_t color_fondo(int fila, int col) const;
+    [[nodiscard]] bool tiene_fondo(int fila, int col) const;
+    void color_fondo(const Bloque& bloque, std::int32_t color);
+
+    /// The picture of a cell; the text stays. A null handle takes it away.
+    [[nodiscard]] std::shared_ptr<const Imagen> CellPicture(int fila, int col) const;
+    void CellPicture(int fila, int col, std::shared_ptr<const Imagen> imagen);
+
+    /// Merge switch of a column. Outside the grid: the let is ignored, the get gives false.
+    [[nodiscard]] bool MergeCol(int col) const;
+    void MergeCol(int col, bool fundir);
+
+    /// Merge mode 0..3; the caller checks the range.
+    [[nodiscard]] std::int16_t MergeCells() const { return fusion_; }
+
+    void MergeCells(std::int16_t modo);
+
+    /// While off no notice is given; switching on gives the joined ones. The switch does not count.
+    [[nodiscard]] bool Redraw() const { return redibuja_; }
+
+    void Redraw(bool si);
+
+    [[nodiscard]] const AlmacenCeldas& almacen() const { return almacen_; }
+
+private:
+    void comprueba(int fila, int col) const;
+    void comprueba_tamano(std::int64_t filas, std::int64_t columnas) const;
+
+    // The rest is for whoever writes tablero.cpp.
+    VistaTablero* vista_;
+    AlmacenCeldas almacen_;
+    int fila_ = 0, col_ = 0, fila_sel_ = 0, col_sel_ = 0;
+    int fila_superior_ = 1;
+    int desplazamiento_ = 0;
+    int ancho_vista_ = 0, alto_vista_ = 0;
+    int alto_normal_ = 300;
+    ModoSeleccion modo_ = ModoSeleccion::Libre;
+    Relleno relleno_ = Relleno::Celda;
+    std::int16_t fusion_ = 0;
+    bool redibuja_ = true;
+    std::string cadena_formato_;
+};
+
+} // namespace Qlt4_Tabla

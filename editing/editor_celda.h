@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+// EditorCelda: the in-cell editor. It decides how an edit starts, which keys the box and the list accept,
+// when a value is committed and what the host is told. The box `Casilla` and the list `cobLista` are
+// seams; the front end reports their keys and focus here and obeys.
+// States: closed; open with the box or the list over one cell, fixed when it opens. Escape discards,
+// Enter, Space (outside text columns) and any loss of focus commit.
+#pragma once
+
+#include "core/estado_tabla.h"
+
+#include <functional>
+#include <string>
+
+namespace Qlt4_Tabla {
+
+/// Why the open editor lost the keyboard focus.
+enum class MotivoFoco {
+    Otro, ///< to another control, by mouse or by code: commits
+    Menu, ///< to a popup menu of this window: does not commit
+    Ventana, ///< to a message box or another window: does not commit
+};
+
+class EditorCelda {
+public:
+    /// `avanza` moves the cursor on after Enter and Space.
+    EditorCelda(EstadoTabla& e, std::function<void()> avanza) : e_(e), avanza_(std::move(avanza)) {}
+
+    [[nodiscard]] bool abierta_casilla() const { return que_ == Que::Casilla; }
+
+    [[nodiscard]] bool abierta_lista() const { return que_ == Que::Lista; }
+
+    [[nodiscard]] bool abierto() const { return que_ != Que::Nada; }
+
+    /// The cell being edited; meaningful while open.
+    [[nodiscard]] int fila() const { return fila_; }
+
+    [[nodiscard]] int col() const { return col_; }
+
+    // The three ways an edit starts.
+    /// Double click: message for invisible (with a beep) and locked columns, else opens with all selected.
+    void abre_por_doble_clic();
+    /// F2: opens without looking at the flags, caret at the end, nothing selected.
+    void abre_por_F2();
+    /// A character typed on the closed grid (never Enter, Escape or Space): may be swallowed by the first-key
+    /// filter, else opens the box with that character as its text.
+    void abre_por_tecla(int KeyAscii);
+
+    /// A key in the open box. Returns the key to be typed, or 0 when it was dropped or handled.
+    int tecla_casilla(int KeyAscii);
+    /// A key in the open list. Returns 0 when it was handled, else the list acts on it itself.
+    int tecla_lista(int KeyAscii);
+    /// An entry was clicked: the focus goes back to the grid, which commits.
+    void clic_lista();
+
+    void casilla_pierde_foco(MotivoFoco motivo);
+    void lista_pierde_foco(MotivoFoco motivo);
+
+    /// Commits and closes whatever is open: a command that comes from a menu, a toolbar or a dialog.
+    void confirma_y_cierra();
+    /// Closes whatever is open and writes nothing.
+    void descarta();
+    /// Scrolling or a width moved the cell: lays the open editor over it again; closes it when the cell
+    /// does not exist any more.
+    void recoloca();
+
+private:
+    enum class Que { Nada, Casilla, Lista };
+
+    bool coloca(); // the placement over the current cell; false when it opened nothing
+    void Casilla_Confirma();
+    void cobLista_Confirma();
+    void cierra();
+
+    EstadoTabla& e_;
+    std::function<void()> avanza_;
+    Que que_ = Que::Nada;
+    int fila_ = 0;
+    int col_ = 0;
+};
+
+} // namespace Qlt4_Tabla

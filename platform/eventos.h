@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+// __Tabla0: the events that the table raises to its host. A host implements what it wants to hear; an
+// event comes after the change it tells of, on the thread that caused it.
+#pragma once
+
+#include <cstdint>
+
+namespace Qlt4_Tabla {
+
+// The name is published and hosts are bound to it, so it keeps its two leading underscores although
+// C++ reserves such names for the compiler.
+class __Tabla0 { // NOLINT(bugprone-reserved-identifier)
+public:
+    virtual ~__Tabla0() = default;
+
+    /// 1: the user asked to leave the table.
+    virtual void Salir() {}
+
+    /// 2: the selection changed by a move of the user, by the advance or by a row command.
+    virtual void SelChange() {}
+
+    /// 3: the in-cell editor committed a value; once per committed cell.
+    virtual void CambiaCasilla() {}
+
+    /// 4: a second click changed a list cell; the grid's row and column under the mouse, 0-based.
+    virtual void ACambiadoValorCombo(std::int32_t& Mouse_Row, std::int32_t& Mouse_Col) {
+        static_cast<void>(Mouse_Row);
+        static_cast<void>(Mouse_Col);
+    }
+};
+
+} // namespace Qlt4_Tabla
