@@ -1,0 +1,81 @@
+# SPDX-License-Identifier: MIT
+"""The tree as the checks see it: the layers, the files, the string literals of a C++ source.
+
+Main names: RAIZ, capas, ficheros, carpeta_de, literales, acaba.
+"""
+import re
+import sys
+from pathlib import Path
+
+RAIZ = Path(__file__).resolve().parents[2]
+# Folders that hold no source of ours.
+AJENAS = {".git", "build", ".cache", "__pycache__"}
+CODIGO = {".h", ".cpp"}
+
+
+def capas():
+    """The rows of capas.txt: {folder: set of folders it may include}."""
+    filas = {}
+    for linea in (RAIZ / "cmake/capas.txt").read_text(encoding="utf-8").splitlines():
+        fila = re.match(r"([a-z_]+) *:(.*)$", linea)
+        if fila:
+            filas[fila[1]] = set(fila[2].split())
+    return filas
+
+
+def cabeceras_contadas():
+    """The rows "only A B : headers" of capas.txt: {(A, B): the headers of B that A may include}."""
+    filas = {}
+    for linea in (RAIZ / "cmake/capas.txt").read_text(encoding="utf-8").splitlines():
+        fila = re.match(r"only ([a-z_]+) ([a-z_]+) *:(.*)$", linea)
+        if fila:
+            filas[fila[1], fila[2]] = set(fila[3].split())
+    return filas
+
+
+def ficheros(sufijos=None):
+    """All files of the tree (paths relative to RAIZ, sorted), or those with one of the suffixes."""
+    hallados = []
+    pendientes = [RAIZ]
+    while pendientes:
+        for f in pendientes.pop().iterdir():
+            if f.is_dir() and not f.is_symlink():
+                if f.name not in AJENAS:
+                    pendientes.append(f)
+            elif sufijos is None or f.suffix in sufijos:
+                hallados.append(f.relative_to(RAIZ))
+    return sorted(hallados)
+
+
+def carpeta_de(ruta):
+    """"core" for core/x.h, "" for a file at the top."""
+    return ruta.parts[0] if len(ruta.parts) > 1 else ""
+
+
+PIEZA = re.compile(
+    r"""(?P<linea>//[^\n]*)|(?P<bloque>/\*.*?\*/)"""
+    r"""|(?:u8|[LuU])?R"(?P<marca>[^()\\\s]*)\((?P<crudo>.*?)\)(?P=marca)\""""
+    r"""|(?:u8|[LuU])?"(?P<texto>(?:\\.|[^"\\\n])*)\""""
+    r"""|(?P<caracter>(?<![0-9A-Za-z])(?:u8|[LuU])?'(?:\\.|[^'\\\n])+')""",
+    re.S | re.X,
+)
+
+
+def literales(codigo):
+    """The string literals of a source outside comments: (line, text as written, rest of the line)."""
+    lineas = codigo.splitlines()
+    for p in PIEZA.finditer(codigo):
+        texto = p["texto"] if p["texto"] is not None else p["crudo"]
+        if texto is not None:
+            n = codigo.count("\n", 0, p.start())
+            yield n + 1, texto, lineas[n]
+
+
+def acaba(nombre, faltas, mirados):
+    """Prints the findings and ends the program: 0 when there are none and something was looked at."""
+    for f in faltas:
+        print(f)
+    if not mirados:
+        print(f"{nombre}: nothing to look at")
+    print(f"{nombre}: {len(faltas)} findings in {mirados} files")
+    sys.exit(1 if faltas or not mirados else 0)
