@@ -40,6 +40,11 @@ public:
 
     // The window.
     void vista_redimensionada(int ancho, int alto);
+    /// The font changed: height of the rows without one of their own, in twips.
+    void alto_de_filas(int twips) {
+        e_.tablero.alto_normal(twips);
+        editor_.recoloca();
+    }
     void desplaza_filas(int fila_superior);
     void desplaza_columnas(int twips);
     /// Moves the current cell as a user's move does (accessibility, a host's plan): selection collapsed on
