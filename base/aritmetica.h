@@ -33,29 +33,17 @@ template <std::floating_point R>
 void entero32(R) = delete;
 
 // Error 6 where the result leaves the 16-bit range.
-constexpr std::int16_t suma16(std::int16_t a, std::int16_t b) {
-    return entero16(std::int64_t{a} + b);
-}
+constexpr std::int16_t suma16(std::int16_t a, std::int16_t b) { return entero16(std::int64_t{a} + b); }
 
-constexpr std::int16_t resta16(std::int16_t a, std::int16_t b) {
-    return entero16(std::int64_t{a} - b);
-}
+constexpr std::int16_t resta16(std::int16_t a, std::int16_t b) { return entero16(std::int64_t{a} - b); }
 
-constexpr std::int16_t producto16(std::int16_t a, std::int16_t b) {
-    return entero16(std::int64_t{a} * b);
-}
+constexpr std::int16_t producto16(std::int16_t a, std::int16_t b) { return entero16(std::int64_t{a} * b); }
 
 // Error 6 where the result leaves the 32-bit range.
-constexpr std::int32_t suma32(std::int32_t a, std::int32_t b) {
-    return entero32(std::int64_t{a} + b);
-}
+constexpr std::int32_t suma32(std::int32_t a, std::int32_t b) { return entero32(std::int64_t{a} + b); }
 
-constexpr std::int32_t resta32(std::int32_t a, std::int32_t b) {
-    return entero32(std::int64_t{a} - b);
-}
+constexpr std::int32_t resta32(std::int32_t a, std::int32_t b) { return entero32(std::int64_t{a} - b); }
 
-constexpr std::int32_t producto32(std::int32_t a, std::int32_t b) {
-    return entero32(std::int64_t{a} * b);
-}
+constexpr std::int32_t producto32(std::int32_t a, std::int32_t b) { return entero32(std::int64_t{a} * b); }
 
 } // namespace Qlt4_Tabla

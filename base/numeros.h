@@ -24,7 +24,7 @@ namespace Qlt4_Tabla {
 // up to FFFF it is a signed 16-bit value, up to FFFFFFFF a signed 32-bit one, beyond that 0. An "&"
 // after the digits makes it a 32-bit value ("&HFFFF" is -1, "&HFFFF&" is 65535).
 // A number beyond the range of a double gives 0. The result is always finite. Never throws but for
-// memory; allocates only for numbers of more than 100 characters.
+// memory; allocates only for texts of more than 100 characters.
 double Val(std::string_view texto);
 
 // The number a whole text is, blanks (U+0020, TAB) around it allowed and none within; a comma may

@@ -36,5 +36,8 @@ inline constexpr std::array<ErrorConTexto, 15> errores{{
 // Words of a Boolean written as text. English on purpose: stored layouts are read back by them.
 inline constexpr std::string_view verdadero = "True";
 inline constexpr std::string_view falso = "False";
+// Words also understood when a Boolean is read.
+inline constexpr std::string_view verdadero_leido = "Verdadero";
+inline constexpr std::string_view falso_leido = "Falso";
 
 } // namespace Qlt4_Tabla::textos

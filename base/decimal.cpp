@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: MIT
+// Decimals of at most 15 significant digits: base/decimal.h.
+#include "base/decimal.h"
+
+#include "base/error.h"
+#include "base/numeros.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+#include <span>
+
+namespace Qlt4_Tabla {
+
+namespace {
+
+constexpr int maximas_cifras = 15;
+// Longer texts may lie near the smallest doubles, which hold fewer than 15 digits.
+constexpr std::size_t maximo_texto = 30;
+
+static_assert(
+    std::numeric_limits<double>::is_iec559 && std::numeric_limits<double>::digits10 == maximas_cifras,
+    "a decimal of 15 digits survives the way through a double");
+
+constexpr auto potencias = [] {
+    std::array<std::uint64_t, maximas_cifras + 1> p{};
+    p[0] = 1;
+    for (std::size_t i = 1; i < p.size(); ++i) p[i] = p[i - 1] * 10;
+    return p;
+}();
+
+constexpr bool es_cifra(char c) noexcept { return c >= '0' && c <= '9'; }
+
+// Without its last `sobran` digits (1 or more), rounded half away from zero.
+std::uint64_t redondea(std::uint64_t cifras, int sobran) noexcept {
+    if (sobran > maximas_cifras) return 0; // less than a tenth of the last place
+    const std::uint64_t divisor = potencias[static_cast<std::size_t>(sobran)];
+    return (cifras + divisor / 2) / divisor;
+}
+
+char* pon_ceros(char* destino, std::ptrdiff_t cuantos) noexcept {
+    return std::fill_n(destino, std::max<std::ptrdiff_t>(cuantos, 0), '0');
+}
+
+// "E+15": sign and at least two digits.
+char* pon_exponente(char* destino, int exponente) noexcept {
+    *destino++ = 'E';
+    *destino++ = exponente < 0 ? '-' : '+';
+    exponente = std::abs(exponente);
+    if (exponente < 10) *destino++ = '0';
+    return std::to_chars(destino, destino + 3, exponente).ptr;
+}
+
+// x, above 0, as "d.ddde+xx" with so many digits.
+std::string_view cientifico(
+    double x, int significativas, std::span<char, capacidad_numero> memoria) noexcept {
+    char* const inicio = memoria.data();
+    const std::to_chars_result r =
+        std::to_chars(inicio, inicio + memoria.size(), x, std::chars_format::scientific, significativas - 1);
+    return {inicio, static_cast<std::size_t>(r.ptr - inicio)};
+}
+
+// Of "+05" or "-324".
+int lee_exponente(std::string_view texto) noexcept {
+    int n = 0;
+    std::from_chars(texto.data() + 1, texto.data() + texto.size(), n);
+    return texto.front() == '-' ? -n : n;
+}
+
+// The digits of a whole number; at least one.
+std::string_view escribe_cifras(std::uint64_t n, std::span<char, maximas_cifras + 1> memoria) noexcept {
+    char* const inicio = memoria.data();
+    const std::to_chars_result r = std::to_chars(inicio, inicio + memoria.size(), n);
+    return {inicio, static_cast<std::size_t>(r.ptr - inicio)};
+}
+
+char* pon(char* destino, std::string_view texto) noexcept {
+    return std::copy(texto.begin(), texto.end(), destino);
+}
+
+} // namespace
+
+Decimal decimal_de_real(double x, int significativas) {
+    if (!std::isfinite(x)) lanza(NumError::Desbordamiento);
+    if (x == 0) return {};
+    char memoria[capacidad_numero];
+    const std::string_view texto = cientifico(std::fabs(x), significativas, memoria);
+    const std::size_t e = texto.find('e');
+    const std::string_view mantisa = texto.substr(0, texto.find_last_not_of(".0", e - 1) + 1);
+    Decimal numero{x < 0, 0, -lee_exponente(texto.substr(e + 1))};
+    for (const char c : mantisa)
+        if (es_cifra(c)) numero.cifras = numero.cifras * 10 + static_cast<std::uint64_t>(c - '0');
+    if (mantisa.size() > 2) numero.decimales += static_cast<int>(mantisa.size()) - 2;
+    return numero;
+}
+
+std::optional<Decimal> decimal_de_texto(std::string_view texto) noexcept {
+    if (texto.size() > maximo_texto) return std::nullopt;
+    Decimal numero;
+    bool hay_cifra = false;
+    bool hay_punto = false;
+    const bool menos = !texto.empty() && texto.front() == '-';
+    for (const char c : texto.substr(menos ? 1 : 0)) {
+        if (es_cifra(c)) {
+            hay_cifra = true;
+            numero.cifras = numero.cifras * 10 + static_cast<std::uint64_t>(c - '0');
+            if (numero.cifras >= potencias[maximas_cifras]) return std::nullopt;
+            if (hay_punto) ++numero.decimales;
+        } else if ((c == '.' || c == ',') && !hay_punto) {
+            hay_punto = true;
+        } else {
+            return std::nullopt;
+        }
+    }
+    if (!hay_cifra) return std::nullopt;
+    numero.negativo = menos && numero.cifras != 0;
+    return numero;
+}
+
+std::size_t escribe_fijo(const Decimal& numero, int decimales, char* destino) noexcept {
+    std::uint64_t cifras = numero.cifras;
+    std::ptrdiff_t ceros = decimales - numero.decimales; // to the right of the digits
+    if (ceros < 0) {
+        cifras = redondea(cifras, static_cast<int>(-ceros));
+        ceros = 0;
+    }
+    if (cifras == 0) ceros = 0;
+    // `texto` and the zeros are the number counted in units of its last decimal.
+    char memoria[maximas_cifras + 1];
+    const std::string_view texto = escribe_cifras(cifras, memoria);
+    const auto tiene = static_cast<std::ptrdiff_t>(texto.size());
+    const std::ptrdiff_t enteras = tiene + ceros - decimales;
+    const auto corte = static_cast<std::size_t>(std::clamp<std::ptrdiff_t>(enteras, 0, tiene));
+
+    char* p = destino;
+    if (numero.negativo) *p++ = '-';
+    if (enteras <= 0) *p++ = '0';
+    p = pon(p, texto.substr(0, corte));
+    p = pon_ceros(p, enteras - tiene);
+    if (decimales > 0) {
+        *p++ = '.';
+        char* const fin = p + decimales;
+        p = pon_ceros(p, -enteras);
+        p = pon(p, texto.substr(corte));
+        p = pon_ceros(p, fin - p);
+    }
+    return static_cast<std::size_t>(p - destino);
+}
+
+std::size_t escribe_numero(const Decimal& numero, int significativas, char* destino) noexcept {
+    char memoria[maximas_cifras + 1];
+    const std::string_view texto = escribe_cifras(numero.cifras, memoria);
+    const int exponente = static_cast<int>(texto.size()) - 1 - numero.decimales;
+    if (numero.cifras == 0 || (exponente < significativas && numero.decimales <= significativas))
+        return escribe_fijo(numero, std::max(numero.decimales, 0), destino);
+    char* p = destino;
+    if (numero.negativo) *p++ = '-';
+    *p++ = texto.front();
+    if (texto.size() > 1) *p++ = '.';
+    p = pon(p, texto.substr(1));
+    return static_cast<std::size_t>(pon_exponente(p, exponente) - destino);
+}
+
+} // namespace Qlt4_Tabla

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+// A decimal number of at most 15 significant digits: what the texts of numbers show. Any such
+// decimal of ordinary size is unchanged by the way through a double and back to 15 digits, so one
+// taken straight from its text may be written without making the double.
+// Main names: Decimal, decimal_de_real, decimal_de_texto, escribe_fijo, escribe_numero.
+// For use by base/numeros.cpp and core/reglas_valor.cpp; others take base/numeros.h.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace Qlt4_Tabla {
+
+// The number cifras x 10^-decimales.
+struct Decimal {
+    bool negativo = false; // never for zero
+    std::uint64_t cifras = 0; // below 10^15
+    int decimales = 0; // below 0: that many zeros follow the digits
+};
+
+// x rounded to `significativas` digits (1 to 15), without trailing zeros. Error 6 when x is not
+// finite.
+Decimal decimal_de_real(double x, int significativas = 15);
+
+// The number a text is in its plainest form: a "-" at most, digits, a point or comma at most, in no
+// more than 30 characters and 15 digits behind the leading zeros. Nothing for any other text, though
+// it may be a number.
+std::optional<Decimal> decimal_de_texto(std::string_view texto) noexcept;
+
+// formato_fijo of the number with `decimales` 0 to 15; the number of bytes written. `destino` has
+// capacidad_fijo bytes.
+std::size_t escribe_fijo(const Decimal& numero, int decimales, char* destino) noexcept;
+
+// numero_a_texto of the number, whose `cifras` have no trailing zeros: plain while it is below
+// 10^significativas and needs at most so many decimals; the number of bytes written. `destino` has
+// capacidad_numero bytes.
+std::size_t escribe_numero(const Decimal& numero, int significativas, char* destino) noexcept;
+
+} // namespace Qlt4_Tabla
