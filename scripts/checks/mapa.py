@@ -25,32 +25,29 @@ def lleva_linea(ruta):
 
 def cartel(ruta):
     """The first sentence of the comment below the SPDX line, or None."""
-    lineas = (RAIZ / ruta).read_text(encoding="utf-8").split("\n")
+    texto = (RAIZ / ruta).read_text(encoding="utf-8")
+    if ruta.suffix == ".py":
+        doc = re.search(r'"""(.*?)"""', texto, re.S)
+        return primera_frase(doc[1]) if doc else None
     marca = "//" if ruta.suffix in CODIGO else "#"
-    texto = []
-    for linea in lineas:
-        if linea.startswith('"""') and ruta.suffix == ".py":
-            return primera_frase(linea[3:] + " " + " ".join(lineas[lineas.index(linea) + 1:]))
+    lineas = []
+    for linea in texto.split("\n"):
+        if linea.startswith("#!") or "SPDX-License-Identifier" in linea:
+            continue
         if not linea.startswith(marca):
-            if texto or linea.strip():
+            if lineas or linea.strip():
                 break
             continue
-        limpia = linea[len(marca):].lstrip("/!").strip()
-        if "SPDX-License-Identifier" in linea or linea.startswith("#!"):
-            continue
-        if not limpia and texto:
-            break
-        texto.append(limpia)
-    return primera_frase(" ".join(texto))
+        lineas.append(linea[len(marca):].lstrip("/!").strip())
+    return primera_frase("\n".join(lineas), ruta.name)
 
 
-def primera_frase(texto):
-    texto = re.split(r'"""', texto)[0].strip()
-    if not texto:
-        return None
-    frase = re.match(r"(.*?[.])(?=\s+[A-Z_<\"`0-9¿]|\s*$)", texto, re.S)
-    frase = (frase[1] if frase else texto).strip()
-    return re.sub(r"\s+", " ", frase)
+def primera_frase(texto, nombre=""):
+    """The first sentence of the first paragraph, without the usage "name arguments:" before it."""
+    parrafo = re.sub(r"\s+", " ", re.split(r"\n\s*\n", texto.strip())[0])
+    parrafo = re.sub(rf"^{re.escape(nombre)}( [^:]*)?: ", "", parrafo) if nombre else parrafo
+    frase = re.match(r"(.*?[.])(?=\s+[^a-z]|$)", parrafo)
+    return (frase[1] if frase else parrafo) or None
 
 
 def mapa():
