@@ -62,13 +62,17 @@ PIEZA = re.compile(
 
 
 def literales(codigo):
-    """The string literals of a source outside comments: (line, text as written, rest of the line)."""
+    """The string literals of a source outside comments: (line number, text as written, the statement
+    up to the literal; of a preprocessor line the whole line)."""
     lineas = codigo.splitlines()
     for p in PIEZA.finditer(codigo):
         texto = p["texto"] if p["texto"] is not None else p["crudo"]
-        if texto is not None:
-            n = codigo.count("\n", 0, p.start())
-            yield n + 1, texto, lineas[n]
+        if texto is None:
+            continue
+        n = codigo.count("\n", 0, p.start())
+        directiva = lineas[n].lstrip().startswith("#")
+        principio = max(codigo.rfind(c, 0, p.start()) for c in ";{}") + 1
+        yield n + 1, texto, lineas[n] if directiva else codigo[principio:p.start()]
 
 
 def acaba(nombre, faltas, mirados):

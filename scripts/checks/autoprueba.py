@@ -20,6 +20,7 @@ BUENOS = {
     "core/b.h": CABECERA + '\n#include "base/a.h"\n',
     "core/textos.h": CABECERA + '\nconstexpr auto aviso = "Nº de filas de la tabla";\n',
     "editing/c.h": CABECERA + '\n#include "core/b.h"\n',
+    "editing/c.cpp": CARTEL + '#include "editing/c.h"\n\nstatic_assert(true,\n    "told to the compiler");\n',
     "colours/d.h": CABECERA + "// \"un texto con ñ dentro\" de un comentario\n",
     "control/e.h": CABECERA + '\n#include "editing/c.h"\n',
     "qt/f.h": CABECERA + '\n#include "control/e.h"\n\n#include <QWidget>\n',
