@@ -13,7 +13,9 @@ namespace Qlt4_Tabla {
 void arranca(EstadoTabla& e);
 /// Writes "Cols", "Rows", "Widht", "Height", "A_FormatString", "A_ExtensionFche".
 void escribe_propiedades(const EstadoTabla& e, BolsaPropiedades& bolsa);
-/// Reads them back (defaults 2, 2, 4000, 2000, empty; the extension is not read); numbers the rows.
+/// Reads them back (defaults 2, 2, 4000, 2000, empty; the extension is not read) and numbers the rows. A
+/// count below 1 leaves the grid's. Errors of the bag and values that do not convert (13, 6): raised before
+/// anything changed.
 void lee_propiedades(EstadoTabla& e, const BolsaPropiedades& bolsa);
 
 } // namespace Qlt4_Tabla

@@ -52,6 +52,8 @@ struct EstadoTabla {
 
 /// Asks the platform again whether decimals are written with a comma.
 void refresca_ComaDecimal(EstadoTabla& e);
+/// Writes a label of this table and tells the frame when its text or its visibility changed.
+void pon_etiqueta(EstadoTabla& e, Etiqueta& etiqueta, std::string_view texto, bool visible);
 /// Row-count label of start-up and of the `Rows` let: "Nº de ", subtitle, " =", Str(Rows - 1).
 void escribe_labNumeroFilas(EstadoTabla& e);
 /// Shows `texto` in labMensaje until the next editor opening, commit, command or selection change.

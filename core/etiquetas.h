@@ -3,6 +3,8 @@
 // `labDefecto` are never shown and have no place here.
 #pragma once
 
+#include "core/textos.h"
+
 #include <string>
 
 namespace Qlt4_Tabla {
@@ -14,7 +16,8 @@ struct Etiqueta {
 
 struct Etiquetas {
     Etiqueta labNumeroFilas; ///< the row count, shown in place of the row-number column
-    Etiqueta labMensaje; ///< one line for messages; its design caption is never seen
+    /// One line for messages, hidden without one; its first caption is never seen.
+    Etiqueta labMensaje{std::string(textos::mensaje_inicial), false};
 };
 
 } // namespace Qlt4_Tabla

@@ -25,9 +25,14 @@ void TextMatrix(EstadoTabla& e, std::int32_t fila, std::int32_t colm, std::strin
 /// Reads a cell; outside the grid: empty. Numeric columns give a decimal comma and "0" for an empty cell.
 [[nodiscard]] std::string TextMatrix(const EstadoTabla& e, std::int32_t fila, std::int32_t colm);
 
-/// Row count, header included. Below 1: ignored. Growing numbers the new rows.
+/// Row count, header included. Below 1: ignored. Growing numbers the rows. A current row or column of 0
+/// becomes 1; label and property notice follow.
 void Rows(EstadoTabla& e, std::int32_t n);
-/// Column count. Names and formats of columns added within 25 get the defaults. Below 1: ignored.
+/// A current row or column of 0 becomes 1 where the table has one: after host, file or paste made rows.
+void lleva_celda_a_datos(Tablero& t);
+/// Column count, at most 25 with defaults: each column added without a name gets "Col " and its number,
+/// and, where they are 0, 3 decimals, text and 10 units (working formats only; nothing is formatted).
+/// Below 1: the count stays and only the property notice is given.
 void Cols(EstadoTabla& e, std::int32_t n);
 /// Only the header row remains.
 void Clear(EstadoTabla& e);
@@ -37,7 +42,7 @@ void MergeCells(EstadoTabla& e, std::int16_t modo);
 [[nodiscard]] std::int32_t A_fila_Activa(const EstadoTabla& e);
 /// The top visible row, clamped to 1..Rows - 1.
 void A_RowTop(EstadoTabla& e, std::int32_t fila);
-/// Row height in twips, the row becomes current. Row out of range: nothing.
+/// Row height in twips, the row becomes current. Row out of range: nothing; a negative height stays out.
 void A_Pon_Alto(EstadoTabla& e, std::int16_t Fil, std::int16_t Alto);
 /// Puts a picture into a cell; the text stays. Out of range: nothing.
 void A_Pon_Imagen(EstadoTabla& e, std::int16_t Fil, std::int16_t Col, std::shared_ptr<const Imagen> Imag);

@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: MIT
+// Column formats and the grid: taking them from the host, applying them in their fixed order of steps,
+// taking dragged widths back. See core/formato_columna.h for the record.
+#include "core/formatos.h"
+
+#include "base/aritmetica.h"
+#include "base/error.h"
+#include "base/numeros.h"
+#include "core/reglas_valor.h"
+#include "core/textos.h"
+
+#include <utility>
+
+namespace Qlt4_Tabla {
+
+namespace {
+
+/// The extension of a table without files.
+constexpr std::string_view SIN_FICHEROS = "X";
+/// The text of a cleared flag; every other text is a set flag.
+constexpr std::string_view BANDERA_BAJA = "-";
+
+template <class Enumerado>
+std::int16_t estrecha(Enumerado valor) {
+    return entero16(static_cast<std::int32_t>(valor));
+}
+
+void guarda(EstadoTabla& e, int col, T_FormatoColumna nuevo) {
+    T_FormatoColumna& actual = formato(e, col); // error 9 before anything is stored
+    T_FormatoColumna& por_defecto = e.Formatos_por_defecto[static_cast<std::size_t>(col)];
+    por_defecto = std::move(nuevo);
+    actual = por_defecto;
+}
+
+int ancho_en_twips(const T_FormatoColumna& f) { return producto16(f.Longitud, TWIPS_POR_UNIDAD); }
+
+/// Column 0 is text without decimals, filled by nothing; its label stands in for it when it is locked.
+void prepara_columna_0(EstadoTabla& e) {
+    T_FormatoColumna& f = e.Formatos[0];
+    f.Accion = static_cast<std::int16_t>(T_Accion::Nada__);
+    f.Alineacion = static_cast<std::int16_t>(T_Alineacion::Izqda);
+    f.Formato = static_cast<std::int16_t>(T_formato::Alfanm);
+    e.tablero.ColWidth(0, f.Invisible ? 0 : ancho_en_twips(f));
+
+    std::string texto = e.nombres.subtitulo();
+    texto += textos::numero_de_filas;
+    texto += Str(e.tablero.Rows() - 1);
+    pon_etiqueta(e, e.etiquetas.labNumeroFilas, texto, f.Bloqueada);
+    f.Decimales = 0;
+}
+
+/// Any alignment outside 0..2 leaves the column's.
+void alinea_columna(Tablero& t, int col, std::int16_t alineacion) {
+    switch (alineacion) {
+    case static_cast<std::int16_t>(T_Alineacion::Izqda):
+        t.ColAlignment(col, AlineacionCelda::Izquierda);
+        break;
+    case static_cast<std::int16_t>(T_Alineacion::Centr): t.ColAlignment(col, AlineacionCelda::Centro); break;
+    case static_cast<std::int16_t>(T_Alineacion::Drcha): t.ColAlignment(col, AlineacionCelda::Derecha); break;
+    default: break;
+    }
+}
+
+void establece_columna(EstadoTabla& e, int col) {
+    Tablero_Formato_Columna(e, col); // error 9 from column 26 on
+    const T_FormatoColumna& f = formato(e, col);
+    if (f.Invisible) e.tablero.ColWidth(col, 0);
+    if (col > 0) e.tablero.TextMatrix(0, col, f.Nombre);
+    e.tablero.color_fondo(Bloque{0, col, 0, col}, f.Bloqueada ? COLOR_CABECERA_BLOQUEADA : COLOR_CARA_BOTON);
+    alinea_columna(e.tablero, col, f.Alineacion);
+}
+
+/// Every number of the column in the form of its decimals; cells that have it already are left.
+void reformatea_numeros(EstadoTabla& e, int col, int decimales) {
+    bool preguntado = false; // the separator, once a column instead of once a cell
+    e.tablero.transforma_columna(
+        col, 1, e.tablero.Rows() - 1, [&](int, std::string_view texto, std::string& nuevo) {
+            if (texto.empty()) return false;
+            if (!std::exchange(preguntado, true)) refresca_ComaDecimal(e);
+            Formato_Numero(Valor_Numerico(texto), 0, decimales, nuevo);
+            return nuevo != texto;
+        });
+}
+
+/// Every value of the column becomes the first of its list; error 9 at a value when there is none.
+void reinicia_lista(EstadoTabla& e, int col) {
+    const Matriz<std::string>& valores = e.listas[static_cast<std::size_t>(col)].Col;
+    e.tablero.transforma_columna(
+        col, 1, e.tablero.Rows() - 1, [&](int, std::string_view texto, std::string& nuevo) {
+            if (texto.empty()) return false;
+            const std::string& primero = valores[0];
+            if (texto == primero) return false;
+            nuevo = primero;
+            return true;
+        });
+}
+
+} // namespace
+
+void FormatoColumnas(EstadoTabla& e, std::int16_t Col, bool Invisib, bool Bloqu, T_formato Formato,
+    std::int16_t decim, T_Alineacion Alinea, T_Accion Accion, std::int16_t Longit, std::string_view nomb) {
+    guarda(e, Col,
+        {.Nombre = std::string(nomb),
+            .Invisible = Invisib,
+            .Bloqueada = Bloqu,
+            .Longitud = Longit,
+            .Formato = estrecha(Formato),
+            .Decimales = decim,
+            .Alineacion = estrecha(Alinea),
+            .Accion = estrecha(Accion)});
+}
+
+void Formatcol(EstadoTabla& e, std::int16_t Col, std::string_view Visib, std::string_view Bloqu,
+    std::int16_t Formt, std::int16_t decim, std::int16_t posic, std::int16_t Longi, std::string_view nomb,
+    std::int16_t Accion) {
+    guarda(e, Col,
+        {.Nombre = std::string(nomb),
+            .Invisible = Visib != BANDERA_BAJA,
+            .Bloqueada = Bloqu != BANDERA_BAJA,
+            .Longitud = Longi,
+            .Formato = Formt,
+            .Decimales = decim,
+            .Alineacion = posic,
+            .Accion = Accion});
+}
+
+void Tablero_Formato_por_defecto(EstadoTabla& e) { e.Formatos = e.Formatos_por_defecto; }
+
+// Redrawing is switched by hand: after an error it has to stay off.
+void Tablero_establece_Formato(EstadoTabla& e) {
+    e.tablero.Redraw(false);
+    prepara_columna_0(e);
+    const int columnas = e.tablero.Cols();
+    for (int col = 0; col < columnas; ++col) establece_columna(e, col);
+    e.tablero.Redraw(true);
+}
+
+void Tablero_Formato_Columna(EstadoTabla& e, int col) {
+    const T_FormatoColumna& f = formato(e, col);
+    e.tablero.ColWidth(col, ancho_en_twips(f));
+    if (es_numerico(f.Formato))
+        reformatea_numeros(e, col, es_real(f.Formato) ? f.Decimales : 0);
+    else if (es_formato(f.Formato, T_formato::ListaU))
+        reinicia_lista(e, col);
+}
+
+void Tablero_Fila_0_Off(EstadoTabla& e) {
+    T_FormatoColumna& f = e.Formatos[0];
+    f.Bloqueada = true;
+    f.Invisible = false;
+    f.Longitud = 0; // so that later formatting keeps the width
+    e.tablero.ColWidth(0, 0);
+}
+
+void Editor_Tabl_graba(EstadoTabla& e) {
+    const int columnas = e.tablero.Cols();
+    for (int col = 0; col < columnas; ++col) {
+        T_FormatoColumna& f = formato(e, col);
+        const int ancho = e.tablero.ColWidth(col);
+        if (ancho <= 0 || f.Invisible || f.Bloqueada) continue;
+        if (ancho != ancho_en_twips(f)) f.Longitud = entero16(ancho / TWIPS_POR_UNIDAD);
+    }
+}
+
+void Tablero_Nombres(
+    EstadoTabla& e, std::string_view Titulo, std::string_view subtitulo, std::string_view extens) {
+    e.nombres.Tablero_Pon_Nombre(1, true, Titulo);
+    e.nombres.Tablero_Pon_Nombre(2, true, subtitulo);
+    e.nombres.Tablero_Pon_Nombre(3, true, extens);
+    if (extens != SIN_FICHEROS) return;
+    for (const Opcion o :
+        {Opcion::mn_pegar_cXp, Opcion::mn_copiar_pXc, Opcion::Mnu_Tabla_Leer, Opcion::Mnu_Tabla_Guardar_como})
+        e.menus[o].visible = false;
+    e.plataforma.marco.menus_cambiados();
+}
+
+std::string Formatea_Valor_Columna(EstadoTabla& e, std::string_view texto, int col) {
+    const T_FormatoColumna& f = formato(e, col);
+    if (texto.empty() || !es_numerico(f.Formato)) return std::string(texto);
+    refresca_ComaDecimal(e);
+    return Formato_Numero(texto, 0, es_real(f.Formato) ? f.Decimales : 0);
+}
+
+void Lista(EstadoTabla& e, std::int16_t columna, const Matriz<std::string>& valores) {
+    if (es_formato(formato(e, columna).Formato, T_formato::ListaU)) {
+        if (valores.dimensiones() > 1) lanza(NumError::Subindice);
+        e.listas[static_cast<std::size_t>(columna)].Col = valores;
+        return;
+    }
+    std::string texto(textos::no_es_lista_antes);
+    texto += Str(columna);
+    texto += textos::no_es_lista_despues;
+    e.plataforma.mensajes.mensaje(texto, EstiloMensaje::Critico, {});
+}
+
+} // namespace Qlt4_Tabla
