@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "qt/casilla.h"
+
+#include "qt/pintor_rejilla.h"
+#include "qt/teclas_qt.h"
+#include "qt/vista_rejilla.h"
+
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+
+namespace Qlt4_Tabla {
+
+MotivoFoco motivo_de(Qt::FocusReason razon) {
+    if (razon == Qt::PopupFocusReason || razon == Qt::MenuBarFocusReason) return MotivoFoco::Menu;
+    return razon == Qt::ActiveWindowFocusReason ? MotivoFoco::Ventana : MotivoFoco::Otro;
+}
+
+Casilla::Casilla(VistaRejilla& vista) : QLineEdit(vista.viewport()), vista_(vista) {
+    setObjectName(QStringLiteral("Casilla"));
+    setFrame(false);
+    setFocusPolicy(Qt::ClickFocus); // Tab never lands here: it leaves the table
+    setTextMargins(MARGEN_TEXTO_PX - MARCO_PX - 2, 0, 0, 0);
+    hide();
+}
+
+EditorCelda& Casilla::editor() { return vista_.tabla().mandos().editor(); }
+
+bool Casilla::columna_numerica() {
+    const int col = editor().col();
+    return col < MAX_COLUMNAS &&
+        es_numerico(vista_.tabla().estado().Formatos[static_cast<std::size_t>(col)].Formato);
+}
+
+// Inside the frame of the current cell, which the grid draws around it.
+void Casilla::mueve(const QRect& celda) {
+    setGeometry(celda.adjusted(MARCO_PX, MARCO_PX, -MARCO_PX, -MARCO_PX));
+}
+
+void Casilla::muestra(const QRect& celda, const QString& texto) {
+    mueve(celda);
+    const int col = vista_.tablero().Col();
+    switch (vista_.tablero().ColAlignment(col)) {
+    case AlineacionCelda::Izquierda: setAlignment(Qt::AlignLeft | Qt::AlignVCenter); break;
+    case AlineacionCelda::Centro: setAlignment(Qt::AlignHCenter | Qt::AlignVCenter); break;
+    case AlineacionCelda::Derecha: setAlignment(Qt::AlignRight | Qt::AlignVCenter); break;
+    }
+    setText(texto);
+    show();
+    setFocus(Qt::OtherFocusReason);
+}
+
+bool Casilla::event(QEvent* e) {
+    // While it is open the box owns its keys, those that the host or the table bind as shortcuts too.
+    if (e->type() == QEvent::ShortcutOverride) {
+        auto* tecla = static_cast<QKeyEvent*>(e);
+        const int codigo = codigo_tecla_abajo(*tecla);
+        if (codigo != teclas::NINGUNA && codigo != teclas::F2) {
+            e->accept();
+            return true;
+        }
+    }
+    return QLineEdit::event(e);
+}
+
+void Casilla::keyPressEvent(QKeyEvent* e) {
+    if (es_decimal_del_teclado_numerico(*e) && columna_numerica()) {
+        if (editor().tecla_casilla('.') != 0) insert(QStringLiteral("."));
+        return;
+    }
+    const std::vector<int> codigos = codigos_tecleados(*e);
+    for (const int codigo : codigos) {
+        if (editor().tecla_casilla(codigo) == 0) return;
+    }
+    QLineEdit::keyPressEvent(e);
+    if (!codigos.empty()) e->accept(); // a key that the box could not use is not a key of the grid
+}
+
+void Casilla::inputMethodEvent(QInputMethodEvent* e) {
+    QString pasa;
+    for (const int codigo : codigos_de_texto(e->commitString())) {
+        const int resto = editor().tecla_casilla(codigo);
+        if (resto != 0) pasa += texto_de_codigo(resto);
+    }
+    QInputMethodEvent filtrado(e->preeditString(), e->attributes());
+    filtrado.setCommitString(pasa, e->replacementStart(), e->replacementLength());
+    QLineEdit::inputMethodEvent(&filtrado);
+    e->accept();
+}
+
+void Casilla::focusOutEvent(QFocusEvent* e) {
+    QLineEdit::focusOutEvent(e);
+    editor().casilla_pierde_foco(motivo_de(e->reason()));
+}
+
+bool Casilla::focusNextPrevChild(bool siguiente) {
+    vista_.setFocus(siguiente ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return vista_.sale_por_tabulador(siguiente);
+}
+
+} // namespace Qlt4_Tabla

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+// Casilla: the text box laid over a cell. It shows and reads text; what its keys and its focus do is
+// decided by the core's in-cell editor. The seam is CajaTexto, served by PuertosQt.
+#pragma once
+
+#ifndef Q_MOC_RUN // the scanner cannot read letters beyond ASCII in published names
+#include "control/tabla0.h"
+#endif
+
+#include <QLineEdit>
+
+namespace Qlt4_Tabla {
+
+class VistaRejilla;
+
+class Casilla final : public QLineEdit {
+    Q_OBJECT
+
+public:
+    explicit Casilla(VistaRejilla& vista);
+
+    void muestra(const QRect& celda, const QString& texto);
+    void mueve(const QRect& celda);
+
+protected:
+    bool event(QEvent* e) override;
+    void keyPressEvent(QKeyEvent* e) override;
+    void inputMethodEvent(QInputMethodEvent* e) override;
+    void focusOutEvent(QFocusEvent* e) override;
+    bool focusNextPrevChild(bool siguiente) override;
+
+private:
+    [[nodiscard]] EditorCelda& editor();
+    [[nodiscard]] bool columna_numerica();
+
+    VistaRejilla& vista_;
+};
+
+/// What a loss of focus means for an open editor.
+[[nodiscard]] MotivoFoco motivo_de(Qt::FocusReason razon);
+
+} // namespace Qlt4_Tabla

@@ -1,0 +1,220 @@
+// SPDX-License-Identifier: MIT
+#include "qt/puertos_qt.h"
+
+#include "base/utf8.h"
+#include "qt/casilla.h"
+#include "qt/lista_celda.h"
+#include "qt/tabla_widget.h"
+#include "qt/vista_rejilla.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+#include <algorithm>
+
+namespace Qlt4_Tabla {
+
+namespace {
+
+QString a_q(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size())); }
+
+// Characters of the core are code points; QLineEdit counts UTF-16 units.
+int a_unidades(const QString& texto, int caracteres) {
+    qsizetype i = 0;
+    for (; caracteres > 0 && i < texto.size(); --caracteres) {
+        const bool par =
+            texto.at(i).isHighSurrogate() && i + 1 < texto.size() && texto.at(i + 1).isLowSurrogate();
+        i += par ? 2 : 1;
+    }
+    return static_cast<int>(i);
+}
+
+} // namespace
+
+PuertosQt::PuertosQt(TablaWidget& widget) : widget_(widget) {}
+
+PuertosQt::~PuertosQt() {
+    if (reloj_) QApplication::restoreOverrideCursor();
+}
+
+Plataforma PuertosQt::plataforma() { return {*this, *this, *this, lista_, *this, *this, pasos_}; }
+
+void PuertosQt::conecta(VistaRejilla& vista, Casilla& casilla, ListaCelda& lista) {
+    vista_ = &vista;
+    casilla_ = &casilla;
+    cob_lista_ = &lista;
+}
+
+QRect PuertosQt::px(const Rectangulo& r) const {
+    const Unidades u = vista_->unidades();
+    const int x = u.px_x(r.izquierda);
+    const int y = u.px_y(r.arriba);
+    return {x, y, u.px_x(r.derecha()) - x, u.px_y(r.abajo()) - y};
+}
+
+// --- VistaTablero ---
+
+void PuertosQt::celdas_cambiadas(int fila1, int col1, int fila2, int col2) {
+    if (vista_) vista_->celdas_cambiadas(fila1, col1, fila2, col2);
+}
+
+void PuertosQt::filas_insertadas(int fila, int n) {
+    if (vista_) vista_->filas_cambiadas(fila);
+    if (vista_) emit widget_.filas_insertadas(fila, n);
+}
+
+void PuertosQt::filas_borradas(int fila, int n) {
+    if (vista_) vista_->filas_cambiadas(fila);
+    if (vista_) emit widget_.filas_borradas(fila, n);
+}
+
+void PuertosQt::columnas_cambiadas() {
+    if (vista_) vista_->todo_cambiado();
+}
+
+void PuertosQt::seleccion_cambiada() {
+    if (vista_) vista_->seleccion_cambiada();
+}
+
+void PuertosQt::vista_desplazada() {
+    if (vista_) vista_->vista_desplazada();
+}
+
+void PuertosQt::ancho_cambiado(int /*col*/) {
+    if (vista_) vista_->todo_cambiado();
+}
+
+void PuertosQt::alto_cambiado(int /*fila*/) {
+    if (vista_) vista_->todo_cambiado();
+}
+
+void PuertosQt::fusion_cambiada() {
+    if (vista_) vista_->todo_cambiado();
+}
+
+void PuertosQt::todo_cambiado() {
+    if (vista_) vista_->todo_cambiado();
+    if (vista_) emit widget_.contenido_cambiado();
+}
+
+// --- Marco ---
+
+float PuertosQt::ancho() const { return static_cast<float>(Unidades(widget_).twips_x(widget_.width())); }
+
+float PuertosQt::alto() const { return static_cast<float>(Unidades(widget_).twips_y(widget_.height())); }
+
+void PuertosQt::pon_tamano(float ancho, float alto) {
+    constexpr float MAXIMO = 1.0e7F; // far beyond any window; keeps the conversion in range
+    const Unidades u(widget_);
+    widget_.resize(u.px_x(static_cast<int>(std::clamp(ancho, 0.0F, MAXIMO))),
+        u.px_y(static_cast<int>(std::clamp(alto, 0.0F, MAXIMO))));
+}
+
+void PuertosQt::etiquetas_cambiadas() {
+    if (vista_) widget_.refresca_etiquetas();
+}
+
+void PuertosQt::menus_cambiados() {}
+
+void PuertosQt::propiedad_cambiada(std::string_view nombre) {
+    if (vista_) emit widget_.propiedad_cambiada(a_q(nombre));
+}
+
+void PuertosQt::enfoca_tablero() {
+    if (vista_) vista_->setFocus(Qt::OtherFocusReason);
+}
+
+// --- CajaTexto ---
+
+void PuertosQt::muestra(const Rectangulo& celda, std::string_view texto) {
+    if (casilla_) casilla_->muestra(px(celda), a_q(texto));
+}
+
+void PuertosQt::oculta() {
+    if (casilla_) casilla_->hide();
+}
+
+void PuertosQt::mueve(const Rectangulo& celda) {
+    if (casilla_) casilla_->mueve(px(celda));
+}
+
+std::string PuertosQt::texto() const { return casilla_ ? casilla_->text().toStdString() : std::string(); }
+
+void PuertosQt::pon_texto(std::string_view texto) {
+    if (casilla_) casilla_->setText(a_q(texto));
+}
+
+int PuertosQt::cursor() const {
+    if (!casilla_) return 0;
+    return static_cast<int>(casilla_->text().left(casilla_->cursorPosition()).toUcs4().size());
+}
+
+void PuertosQt::selecciona(int inicio, int longitud) {
+    if (!casilla_) return;
+    const QString s = casilla_->text();
+    const int desde = a_unidades(s, inicio);
+    const int hasta = a_unidades(s, inicio + longitud);
+    casilla_->deselect();
+    casilla_->setCursorPosition(desde);
+    if (hasta > desde) casilla_->setSelection(desde, hasta - desde);
+}
+
+// --- ListaDesplegable ---
+
+void PuertosQt::Lista::muestra(const Rectangulo& celda, std::span<const std::string> entradas, int elegida) {
+    if (!p_.cob_lista_) return;
+    QStringList textos;
+    for (const std::string& s : entradas) textos << a_q(s);
+    p_.cob_lista_->muestra(p_.px(celda), textos, elegida);
+}
+
+void PuertosQt::Lista::oculta() {
+    if (p_.cob_lista_) p_.cob_lista_->oculta();
+}
+
+void PuertosQt::Lista::mueve(const Rectangulo& celda) {
+    if (p_.cob_lista_) p_.cob_lista_->mueve(p_.px(celda));
+}
+
+std::string PuertosQt::Lista::texto() const {
+    return p_.cob_lista_ ? p_.cob_lista_->currentText().toStdString() : std::string();
+}
+
+// --- Mensajes ---
+
+Respuesta PuertosQt::mensaje(std::string_view texto, EstiloMensaje estilo, std::string_view titulo) {
+    QMessageBox caja(widget_.window());
+    caja.setTextFormat(Qt::PlainText);
+    caja.setText(a_q(texto));
+    caja.setWindowTitle(titulo.empty() ? QApplication::applicationDisplayName() : a_q(titulo));
+    const bool critico = estilo == EstiloMensaje::Critico || estilo == EstiloMensaje::CriticoSiNo;
+    if (critico) caja.setIcon(QMessageBox::Critical);
+    if (estilo == EstiloMensaje::Informacion) caja.setIcon(QMessageBox::Information);
+    if (estilo != EstiloMensaje::CriticoSiNo) {
+        caja.exec();
+        return Respuesta::Aceptar;
+    }
+    caja.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    caja.setEscapeButton(QMessageBox::No);
+    return caja.exec() == QMessageBox::Yes ? Respuesta::Si : Respuesta::No;
+}
+
+void PuertosQt::pitido() { QApplication::beep(); }
+
+void PuertosQt::puntero(Puntero forma) {
+    const bool reloj = forma == Puntero::RelojDeArena;
+    if (reloj == reloj_) return;
+    reloj_ = reloj;
+    if (reloj)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+// --- SeparadorDecimal ---
+
+bool PuertosQt::es_coma() const {
+    return coma_.value_or(widget_.locale().decimalPoint() == QStringLiteral(","));
+}
+
+} // namespace Qlt4_Tabla

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#include "qt/tabla_widget.h"
+
+#include "qt/casilla.h"
+#include "qt/colores_qt.h"
+#include "qt/lista_celda.h"
+#include "qt/puertos_qt.h"
+#include "qt/vista_rejilla.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace Qlt4_Tabla {
+
+namespace {
+
+constexpr int MARGEN_TIRA_PX = 6;
+
+// The events of the core as the widget's signals.
+class EventosQt final : public __Tabla0 {
+public:
+    explicit EventosQt(TablaWidget& w) : w_(w) {}
+
+    void Salir() override { emit w_.Salir(); }
+
+    void SelChange() override { emit w_.SelChange(); }
+
+    void CambiaCasilla() override { emit w_.CambiaCasilla(); }
+
+    void ACambiadoValorCombo(std::int32_t& Mouse_Row, std::int32_t& Mouse_Col) override {
+        emit w_.ACambiadoValorCombo(Mouse_Row, Mouse_Col);
+    }
+
+private:
+    TablaWidget& w_;
+};
+
+} // namespace
+
+struct TablaWidget::Interior {
+    explicit Interior(TablaWidget& w)
+        : eventos(w),
+          puertos(w),
+          tabla(puertos.plataforma(), eventos),
+          vista(new VistaRejilla(tabla, &w)),
+          casilla(new Casilla(*vista)),
+          lista(new ListaCelda(*vista)),
+          tira(new QWidget(&w)),
+          numero_filas(new QLabel(tira)),
+          mensaje(new QLabel(tira)) {
+        puertos.conecta(*vista, *casilla, *lista);
+    }
+
+    EventosQt eventos;
+    PuertosQt puertos;
+    Tabla0 tabla;
+    VistaRejilla* vista; // the widgets belong to their parents
+    Casilla* casilla;
+    ListaCelda* lista;
+    QWidget* tira;
+    QLabel* numero_filas;
+    QLabel* mensaje;
+};
+
+TablaWidget::TablaWidget(QWidget* padre) : QWidget(padre), yo_(std::make_unique<Interior>(*this)) {
+    setFocusProxy(yo_->vista);
+    yo_->numero_filas->setObjectName(QStringLiteral("labNumeroFilas"));
+    yo_->mensaje->setObjectName(QStringLiteral("labMensaje"));
+    for (QLabel* etiqueta : {yo_->numero_filas, yo_->mensaje}) etiqueta->setTextFormat(Qt::PlainText);
+    yo_->mensaje->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    auto* fila = new QHBoxLayout(yo_->tira);
+    fila->setContentsMargins(MARGEN_TIRA_PX, 2, MARGEN_TIRA_PX, 2);
+    fila->setSpacing(3 * MARGEN_TIRA_PX);
+    fila->addWidget(yo_->numero_filas);
+    fila->addWidget(yo_->mensaje, 1);
+    auto* todo = new QVBoxLayout(this);
+    todo->setContentsMargins(0, 0, 0, 0);
+    todo->setSpacing(0);
+    todo->addWidget(yo_->vista, 1);
+    todo->addWidget(yo_->tira);
+    refresca_etiquetas();
+}
+
+TablaWidget::~TablaWidget() {
+    // An editor that loses its focus while its parents die must find no table to write to.
+    yo_->tabla.mandos().editor().descarta();
+    delete yo_->vista;
+}
+
+Tabla0& TablaWidget::tabla() { return yo_->tabla; }
+
+const Tabla0& TablaWidget::tabla() const { return yo_->tabla; }
+
+void TablaWidget::pon_coma_decimal(std::optional<bool> coma) { yo_->puertos.pon_coma_decimal(coma); }
+
+QSize TablaWidget::sizeHint() const { return {480, 320}; }
+
+QSize TablaWidget::minimumSizeHint() const { return {120, 90}; }
+
+// The strip keeps its height whether its labels show or not: nothing jumps while the user types.
+void TablaWidget::refresca_etiquetas() {
+    const Etiquetas& e = yo_->tabla.estado().etiquetas;
+    const auto pon = [](QLabel* label, const Etiqueta& etiqueta) {
+        label->setText(etiqueta.visible ? QString::fromStdString(etiqueta.texto) : QString());
+    };
+    pon(yo_->numero_filas, e.labNumeroFilas);
+    pon(yo_->mensaje, e.labMensaje);
+    yo_->tira->setFixedHeight(fontMetrics().height() + 6);
+    QPalette p = palette();
+    p.setColor(QPalette::WindowText, es_oscura(p) ? QColor(0xFF, 0x9A, 0x8A) : QColor(0xA8, 0x1C, 0x07));
+    yo_->mensaje->setPalette(p);
+}
+
+void TablaWidget::changeEvent(QEvent* e) {
+    if (e->type() == QEvent::PaletteChange || e->type() == QEvent::FontChange) refresca_etiquetas();
+    QWidget::changeEvent(e);
+}
+
+} // namespace Qlt4_Tabla

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+// TablaWidget: the table as a Qt widget. Put it on a window, reach the table's members through `tabla()`,
+// and connect the four events as signals.
+//
+//   auto* widget = new TablaWidget(parent);
+//   Tabla0& t = widget->tabla();
+//   t.FormatoColumnas(1, false, false, T_formato::Real__, 3, T_Alineacion::Drcha, T_Accion::Nada__, 12, "X");
+//   t.Tablero_establece_Formato();
+//   QObject::connect(widget, &TablaWidget::CambiaCasilla, [&t] { redraw(t); });
+//
+// All calls on the user-interface thread. The widget owns the table; two widgets share nothing.
+#pragma once
+
+#ifndef Q_MOC_RUN // the scanner cannot read letters beyond ASCII in published names
+#include "control/tabla0.h"
+#endif
+
+#include <QWidget>
+
+#include <memory>
+#include <optional>
+
+namespace Qlt4_Tabla {
+
+class TablaWidget : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit TablaWidget(QWidget* padre = nullptr);
+    ~TablaWidget() override;
+
+    [[nodiscard]] Tabla0& tabla();
+    [[nodiscard]] const Tabla0& tabla() const;
+
+    /// Does this table write decimals with a comma where it asks the platform? Nothing: as the widget's
+    /// locale does.
+    void pon_coma_decimal(std::optional<bool> coma);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+signals:
+    // The events of the table, by their published names.
+    void Salir();
+    void SelChange();
+    void CambiaCasilla();
+    void ACambiadoValorCombo(int Mouse_Row, int Mouse_Col);
+
+    // What a host that shows the rows elsewhere may want to follow.
+    void filas_insertadas(int fila, int n);
+    void filas_borradas(int fila, int n);
+    void contenido_cambiado();
+    /// A persisted property got a new value.
+    void propiedad_cambiada(const QString& nombre);
+
+protected:
+    void changeEvent(QEvent* e) override;
+
+private:
+    friend class PuertosQt;
+    struct Interior;
+
+    void refresca_etiquetas();
+
+    std::unique_ptr<Interior> yo_;
+};
+
+} // namespace Qlt4_Tabla

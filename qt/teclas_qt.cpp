@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include "qt/teclas_qt.h"
+
+#include "base/pagina1252.h"
+
+#include <QKeyEvent>
+
+namespace Qlt4_Tabla {
+
+namespace {
+
+struct Par {
+    int qt;
+    int codigo;
+};
+
+constexpr Par TECLAS[] = {
+    {Qt::Key_Backspace, teclas::RETROCESO},
+    {Qt::Key_Return, teclas::INTRO},
+    {Qt::Key_Enter, teclas::INTRO},
+    {Qt::Key_Escape, teclas::ESCAPE},
+    {Qt::Key_Space, teclas::ESPACIO},
+    {Qt::Key_PageUp, teclas::REPAG},
+    {Qt::Key_PageDown, teclas::AVPAG},
+    {Qt::Key_End, teclas::FIN},
+    {Qt::Key_Home, teclas::INICIO},
+    {Qt::Key_Left, teclas::IZQUIERDA},
+    {Qt::Key_Up, teclas::ARRIBA},
+    {Qt::Key_Right, teclas::DERECHA},
+    {Qt::Key_Down, teclas::ABAJO},
+    {Qt::Key_Delete, teclas::SUPR},
+    {Qt::Key_F2, teclas::F2},
+};
+
+} // namespace
+
+int codigo_tecla_abajo(const QKeyEvent& e) {
+    for (const Par& p : TECLAS) {
+        if (p.qt == e.key()) return p.codigo;
+    }
+    return teclas::NINGUNA;
+}
+
+Modificadores modificadores(Qt::KeyboardModifiers m) {
+    Modificadores r;
+    if (m.testFlag(Qt::ShiftModifier)) r = r | teclas::MAYUSCULAS;
+    if (m.testFlag(Qt::ControlModifier)) r = r | teclas::CONTROL;
+    if (m.testFlag(Qt::AltModifier)) r = r | teclas::ALT;
+    return r;
+}
+
+std::vector<int> codigos_tecleados(const QKeyEvent& e) {
+    switch (e.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter: return {teclas::INTRO};
+    case Qt::Key_Escape: return {teclas::ESCAPE};
+    case Qt::Key_Backspace: return {teclas::RETROCESO};
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+    case Qt::Key_Delete: return {};
+    default: break;
+    }
+    // AltGr comes as Ctrl+Alt on some systems; with one of them alone the key is a command.
+    const bool control = e.modifiers().testFlag(Qt::ControlModifier);
+    const bool alt = e.modifiers().testFlag(Qt::AltModifier);
+    if (control != alt || e.modifiers().testFlag(Qt::MetaModifier)) return {};
+    return codigos_de_texto(e.text());
+}
+
+std::vector<int> codigos_de_texto(const QString& texto) {
+    std::vector<int> codigos;
+    for (const uint c : texto.toUcs4()) {
+        if (c >= 32 && c != 127) codigos.push_back(codigo_tecla(static_cast<char32_t>(c)));
+    }
+    return codigos;
+}
+
+bool es_decimal_del_teclado_numerico(const QKeyEvent& e) {
+    if (!e.modifiers().testFlag(Qt::KeypadModifier)) return false;
+    return e.key() == Qt::Key_Comma || e.key() == Qt::Key_Period;
+}
+
+QString texto_de_codigo(int KeyAscii) {
+    const char32_t c = punto_de_tecla(KeyAscii);
+    return QString::fromUcs4(&c, 1);
+}
+
+} // namespace Qlt4_Tabla

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+// VistaRejilla: the grid on the window. It draws the core's Tablero, translates keys, mouse, wheel and
+// size into calls of Mandos, and obeys the notices of the grid (VistaTablero, by way of PuertosQt). It
+// holds no state of the table but what it drew last. Drawing itself: qt/pintor_rejilla.h.
+#pragma once
+
+#ifndef Q_MOC_RUN // the scanner cannot read letters beyond ASCII in published names
+#include "control/tabla0.h"
+#endif
+#include "qt/unidades.h"
+
+#include <QAbstractScrollArea>
+
+namespace Qlt4_Tabla {
+
+class VistaRejilla final : public QAbstractScrollArea {
+    Q_OBJECT
+
+public:
+    VistaRejilla(Tabla0& tabla, QWidget* padre);
+
+    [[nodiscard]] Tabla0& tabla() { return tabla_; }
+
+    [[nodiscard]] const Tablero& tablero() const { return tabla_.tablero(); }
+
+    [[nodiscard]] Unidades unidades() const { return Unidades(*viewport()); }
+
+    /// The place of a cell in viewport pixels, whether seen or not.
+    [[nodiscard]] QRect rect_celda(int fila, int col) const;
+
+    /// Tab pressed in an open editor: the focus goes on from the grid, as in any form.
+    bool sale_por_tabulador(bool siguiente) { return focusNextPrevChild(siguiente); }
+
+    // What the grid tells; each asks for the smallest repaint.
+    void celdas_cambiadas(int fila1, int col1, int fila2, int col2);
+    void filas_cambiadas(int desde);
+    void seleccion_cambiada();
+    void vista_desplazada();
+    void todo_cambiado();
+
+signals:
+    /// The current cell or the selection was drawn anew (for accessibility).
+    void cursor_movido();
+
+protected:
+    bool event(QEvent* e) override;
+    bool viewportEvent(QEvent* e) override;
+    void paintEvent(QPaintEvent* e) override;
+    void resizeEvent(QResizeEvent* e) override;
+    void changeEvent(QEvent* e) override;
+    void showEvent(QShowEvent* e) override;
+    void focusInEvent(QFocusEvent* e) override;
+    void focusOutEvent(QFocusEvent* e) override;
+    void keyPressEvent(QKeyEvent* e) override;
+    void inputMethodEvent(QInputMethodEvent* e) override;
+    [[nodiscard]] QVariant inputMethodQuery(Qt::InputMethodQuery que) const override;
+    void mousePressEvent(QMouseEvent* e) override;
+    void mouseMoveEvent(QMouseEvent* e) override;
+    void mouseReleaseEvent(QMouseEvent* e) override;
+    void mouseDoubleClickEvent(QMouseEvent* e) override;
+    void wheelEvent(QWheelEvent* e) override;
+    void scrollContentsBy(int dx, int dy) override;
+
+private:
+    struct Dibujado {
+        Bloque seleccion;
+        int fila = 0;
+        int col = 0;
+        int fila_superior = 1;
+        int desplazamiento = 0;
+    };
+
+    [[nodiscard]] QPoint a_twips(const QPointF& px) const;
+    [[nodiscard]] int borde_bajo(const QPointF& px) const;
+    void arrastra_borde(int x_px);
+    void ajusta_ancho(int col);
+    void mide_filas();
+    void pon_barras();
+    void repinta(const QRect& zona);
+    void repinta_filas(int fila1, int fila2);
+    [[nodiscard]] bool columna_numerica() const;
+
+    Tabla0& tabla_;
+    Dibujado dibujado_;
+    int pedidos_ = 0; // repaint requests since the last painting
+    int columna_en_mano_ = -1; // column whose edge is dragged
+    int rueda_y_ = 0; // wheel steps of less than a notch, added up
+    int rueda_x_ = 0;
+    bool poniendo_barras_ = false;
+};
+
+} // namespace Qlt4_Tabla
