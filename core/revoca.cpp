@@ -31,7 +31,7 @@ void Revoca::Rehace(EstadoMenus& menus) {
 }
 
 void Revoca::A_GrabaRevoca(std::string_view valor) {
-    if (valor == "SI" || valor == "NO") graba_ = valor;
+    if (valor == "SI" || valor == "NO") graba_ = std::string(valor);
 }
 
 } // namespace Qlt4_Tabla
