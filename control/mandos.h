@@ -2,6 +2,7 @@
 // Mandos: the front end's way in. Every event of the window (keys, mouse, wheel, focus, size) is translated
 // into one call here; the core decides and answers through the seams of the platform. A front end holds no
 // rule of the table. Places are twips in the grid's own coordinates (see core/geometria.h).
+// No error leaves a call: it is shown in a message box, "Tabla Tablero - Error nº 9: ...".
 #pragma once
 
 #include "base/teclas.h"
@@ -9,6 +10,9 @@
 #include "core/geometria.h"
 #include "editing/editor_celda.h"
 #include "editing/navegacion.h"
+
+#include <functional>
+#include <string_view>
 
 namespace Qlt4_Tabla {
 
@@ -20,44 +24,57 @@ public:
 
     // Keys on the closed grid. A key first comes as key down; when that returns false and it has a character,
     // the character comes as key press (see base/pagina1252.h for its code). Ctrl combinations and Tab never
-    // come as key presses.
+    // come as key presses, nor does the Delete key.
     bool tecla_abajo(int KeyCode, Modificadores mods);
     /// Returns whether the key was used.
     bool tecla_pulsada(int KeyAscii);
 
-    // Mouse on the grid.
+    // Mouse on the grid. A press commits an open editor. The second press of a double click comes as
+    // `doble_clic` alone; its release is no click. A release on another cell than the press is none either.
     void raton_abajo(int x, int y, Boton boton, Modificadores mods);
     void raton_mueve(int x, int y);
     void raton_arriba(int x, int y, Boton boton);
+    /// Opens the editor when the place is the current cell, else nothing.
     void doble_clic(int x, int y);
     void rueda(int signo);
 
-    // The user drags the right edge of a column: the grid's width follows; formats take it over later.
+    /// The user drags the right edge of a column: the grid's width follows (less than 0 counts as 0); formats
+    /// take it over later. No such column: nothing.
     void arrastra_borde(int col, int ancho);
 
-    // The editors: keys, focus, a click in the list.
+    // The open editors: what EditorCelda does under the same names, with errors kept inside.
+    int tecla_casilla(int KeyAscii);
+    int tecla_lista(int KeyAscii);
+    void clic_lista();
+    void casilla_pierde_foco(MotivoFoco motivo);
+    void lista_pierde_foco(MotivoFoco motivo);
+    /// To be called when a notice of the view says that widths, heights, rows or the place of the view changed.
+    void recoloca_editor();
+
+    /// For asking what is open; keys and focus go through the calls above.
     EditorCelda& editor() { return editor_; }
 
     // The window.
     void vista_redimensionada(int ancho, int alto);
-    /// The font changed: height of the rows without one of their own, in twips.
-    void alto_de_filas(int twips) {
-        e_.tablero.alto_normal(twips);
-        editor_.recoloca();
-    }
+    /// Height of rows without one of their own, from the front end's font.
+    void alto_de_filas(int twips);
     void desplaza_filas(int fila_superior);
     void desplaza_columnas(int twips);
-    /// Moves the current cell as a user's move does (accessibility, a host's plan): selection collapsed on
-    /// it, shown, SelChange raised when it changed. Out of range: nothing.
+    /// Moves the current cell as a user's move does (accessibility, a host's plan): commits an open editor;
+    /// selection collapsed on the cell, shown, SelChange raised when it changed. Out of range: nothing.
     void elige_celda(int fila, int col);
     /// Selects the block as a user's move does; see elige_celda.
     void elige_bloque(int fila, int col, int fila_sel, int col_sel);
 
 private:
+    void protege(std::string_view lugar, const std::function<void()>& orden);
+    void cambia_vista(const std::function<void()>& orden);
+
     EstadoTabla& e_;
     EditorCelda& editor_;
     Navegacion& navegacion_;
     bool arrastrando_ = false;
+    Celda pulsada_; // where the left button went down
 };
 
 } // namespace Qlt4_Tabla

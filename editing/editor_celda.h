@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 
 namespace Qlt4_Tabla {
 
@@ -20,6 +21,9 @@ enum class MotivoFoco {
     Ventana, ///< to a message box or another window: does not commit
 };
 
+// The editor counts as closed before a commit begins: what the host does in `CambiaCasilla` (a message box
+// that takes the focus, rows that go away, another edit) can therefore never commit a value twice. An
+// editor that the host opens there stays open, and the cursor does not advance.
 class EditorCelda {
 public:
     /// `avanza` moves the cursor on after Enter and Space.
@@ -36,18 +40,22 @@ public:
 
     [[nodiscard]] int col() const { return col_; }
 
-    // The three ways an edit starts.
+    // The three ways an edit starts, each over the current cell, which is scrolled into view. An open editor
+    // is committed first. A list column opens its list, and nothing while it has no values. Current column
+    // beyond 25: error 9.
     /// Double click: message for invisible (with a beep) and locked columns, else opens with all selected.
     void abre_por_doble_clic();
     /// F2: opens without looking at the flags, caret at the end, nothing selected.
     void abre_por_F2();
     /// A character typed on the closed grid (never Enter, Escape or Space): may be swallowed by the first-key
-    /// filter, else opens the box with that character as its text.
+    /// filter, else opens the box with that character as its text. Other codes below 32 than 8 (Backspace)
+    /// open nothing. A list opens without the character.
     void abre_por_tecla(int KeyAscii);
 
     /// A key in the open box. Returns the key to be typed, or 0 when it was dropped or handled.
     int tecla_casilla(int KeyAscii);
-    /// A key in the open list. Returns 0 when it was handled, else the list acts on it itself.
+    /// A key in the open list. Returns 0 when it was handled, else the list acts on it itself. Enter and
+    /// Space write the entry directly: no capture point, no `CambiaCasilla`, not marked as modified.
     int tecla_lista(int KeyAscii);
     /// An entry was clicked: the focus goes back to the grid, which commits.
     void clic_lista();
@@ -55,9 +63,10 @@ public:
     void casilla_pierde_foco(MotivoFoco motivo);
     void lista_pierde_foco(MotivoFoco motivo);
 
-    /// Commits and closes whatever is open: a command that comes from a menu, a toolbar or a dialog.
+    /// Commits and closes whatever is open: a command that comes from a menu, a toolbar or a dialog. The
+    /// focus goes to the grid.
     void confirma_y_cierra();
-    /// Closes whatever is open and writes nothing.
+    /// Closes whatever is open and writes nothing; the focus goes to the grid.
     void descarta();
     /// Scrolling or a width moved the cell: lays the open editor over it again; closes it when the cell
     /// does not exist any more.
@@ -67,15 +76,26 @@ private:
     enum class Que { Nada, Casilla, Lista };
 
     bool coloca(); // the placement over the current cell; false when it opened nothing
+    void abre_casilla(int fila, int col);
+    void abre_lista(int fila, int col);
     void Casilla_Confirma();
     void cobLista_Confirma();
+    void escribe_eleccion(); // the list's direct write
+    void confirma(const std::string& texto, bool escribe);
+    void confirma_y_oculta(); // leaves the focus where it is
+    void avanza_y_enfoca();
+    int filtra(int KeyAscii);
+    [[nodiscard]] bool existe_celda() const;
     void cierra();
+    void oculta(Que que);
+    void enfoca();
 
     EstadoTabla& e_;
     std::function<void()> avanza_;
     Que que_ = Que::Nada;
     int fila_ = 0;
     int col_ = 0;
+    bool hay_eleccion_ = false; // the list opened with an entry selected, so one always is
 };
 
 } // namespace Qlt4_Tabla

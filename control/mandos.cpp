@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: MIT
+// Each call translates, asks the rules and keeps their errors inside. The rules stand in editing/.
+#include "control/mandos.h"
+
+#include "control/guarda.h"
+#include "editing/filas.h"
+
+#include <algorithm>
+
+namespace Qlt4_Tabla {
+
+namespace {
+
+// The places that the message of an error names.
+constexpr std::string_view TABLERO = "Tablero";
+constexpr std::string_view CASILLA = "Casilla";
+constexpr std::string_view LISTA = "cobLista";
+
+} // namespace
+
+Mandos::Mandos(EstadoTabla& e, EditorCelda& editor, Navegacion& navegacion)
+    : e_(e), editor_(editor), navegacion_(navegacion) {}
+
+void Mandos::protege(std::string_view lugar, const std::function<void()>& orden) {
+    guarda(e_.plataforma.mensajes, prefijo_miembro(lugar), {}, orden);
+}
+
+void Mandos::cambia_vista(const std::function<void()>& orden) {
+    protege(TABLERO, [&] {
+        orden();
+        editor_.recoloca();
+    });
+}
+
+bool Mandos::tecla_abajo(int KeyCode, Modificadores mods) {
+    bool usada = true;
+    protege(TABLERO, [&] {
+        if (KeyCode == teclas::F2)
+            editor_.abre_por_F2();
+        else if (KeyCode == teclas::SUPR && !e_.ratonOff)
+            mn_borrar_seleccion(e_);
+        else
+            usada = navegacion_.tecla(KeyCode, mods);
+    });
+    return usada;
+}
+
+bool Mandos::tecla_pulsada(int KeyAscii) {
+    bool usada = true;
+    protege(TABLERO, [&] {
+        switch (KeyAscii) {
+        case teclas::INTRO: navegacion_.Avanza_Cursor(); break;
+        case teclas::ESCAPE: e_.eventos.Salir(); break;
+        case teclas::ESPACIO:
+            usada = !es_formato(formato(e_, e_.tablero.Col()).Formato, T_formato::Alfanm);
+            if (usada) navegacion_.Avanza_Cursor();
+            break;
+        default:
+            editor_.abre_por_tecla(KeyAscii);
+            usada = editor_.abierto();
+            break;
+        }
+    });
+    return usada;
+}
+
+void Mandos::raton_abajo(int x, int y, Boton boton, Modificadores mods) {
+    if (boton != Boton::Izquierdo) return;
+    protege(TABLERO, [&] {
+        // Where the user pointed, before a commit can move rows under the mouse.
+        pulsada_ = celda_en(e_.tablero, x, y);
+        arrastrando_ = true;
+        editor_.confirma_y_cierra();
+        if (pulsada_.fila < e_.tablero.Rows() && pulsada_.col < e_.tablero.Cols())
+            navegacion_.raton_abajo(pulsada_, mods);
+    });
+}
+
+void Mandos::raton_mueve(int x, int y) {
+    if (!arrastrando_) return;
+    cambia_vista([&] { navegacion_.arrastra(x, y); });
+}
+
+void Mandos::raton_arriba(int x, int y, Boton boton) {
+    if (boton != Boton::Izquierdo || !arrastrando_) return;
+    arrastrando_ = false;
+    protege(TABLERO, [&] {
+        const Celda suelta = celda_en(e_.tablero, x, y);
+        if (suelta == pulsada_) navegacion_.clic(suelta);
+    });
+}
+
+void Mandos::doble_clic(int x, int y) {
+    arrastrando_ = false;
+    protege(TABLERO, [&] {
+        const Tablero& t = e_.tablero;
+        if (celda_en(t, x, y) == Celda{t.Row(), t.Col()}) editor_.abre_por_doble_clic();
+    });
+}
+
+void Mandos::rueda(int signo) {
+    cambia_vista([&] { navegacion_.rueda(signo); });
+}
+
+void Mandos::arrastra_borde(int col, int ancho) {
+    if (col < 0 || col >= e_.tablero.Cols()) return;
+    cambia_vista([&] { e_.tablero.ColWidth(col, std::max(0, ancho)); });
+}
+
+int Mandos::tecla_casilla(int KeyAscii) {
+    int tecla = 0;
+    protege(CASILLA, [&] { tecla = editor_.tecla_casilla(KeyAscii); });
+    return tecla;
+}
+
+int Mandos::tecla_lista(int KeyAscii) {
+    int tecla = 0;
+    protege(LISTA, [&] { tecla = editor_.tecla_lista(KeyAscii); });
+    return tecla;
+}
+
+void Mandos::clic_lista() {
+    protege(LISTA, [&] { editor_.clic_lista(); });
+}
+
+void Mandos::casilla_pierde_foco(MotivoFoco motivo) {
+    protege(CASILLA, [&] { editor_.casilla_pierde_foco(motivo); });
+}
+
+void Mandos::lista_pierde_foco(MotivoFoco motivo) {
+    protege(LISTA, [&] { editor_.lista_pierde_foco(motivo); });
+}
+
+void Mandos::recoloca_editor() {
+    protege(TABLERO, [&] { editor_.recoloca(); });
+}
+
+void Mandos::vista_redimensionada(int ancho, int alto) {
+    cambia_vista([&] { e_.tablero.pon_vista(ancho, alto); });
+}
+
+void Mandos::alto_de_filas(int twips) {
+    cambia_vista([&] { e_.tablero.alto_normal(twips); });
+}
+
+void Mandos::desplaza_filas(int fila_superior) {
+    cambia_vista([&] { e_.tablero.TopRow(fila_superior); });
+}
+
+void Mandos::desplaza_columnas(int twips) {
+    cambia_vista([&] { e_.tablero.desplazamiento(twips); });
+}
+
+void Mandos::elige_celda(int fila, int col) { elige_bloque(fila, col, fila, col); }
+
+void Mandos::elige_bloque(int fila, int col, int fila_sel, int col_sel) {
+    protege(TABLERO, [&] {
+        editor_.confirma_y_cierra();
+        navegacion_.elige_bloque(fila, col, fila_sel, col_sel);
+    });
+}
+
+} // namespace Qlt4_Tabla
