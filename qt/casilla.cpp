@@ -23,10 +23,10 @@ Casilla::Casilla(VistaRejilla& vista) : QLineEdit(vista.viewport()), vista_(vist
     hide();
 }
 
-EditorCelda& Casilla::editor() { return vista_.tabla().mandos().editor(); }
+Mandos& Casilla::mandos() { return vista_.tabla().mandos(); }
 
 bool Casilla::columna_numerica() {
-    const int col = editor().col();
+    const int col = mandos().editor().col();
     return col < MAX_COLUMNAS &&
         es_numerico(vista_.tabla().estado().Formatos[static_cast<std::size_t>(col)].Formato);
 }
@@ -64,12 +64,12 @@ bool Casilla::event(QEvent* e) {
 
 void Casilla::keyPressEvent(QKeyEvent* e) {
     if (es_decimal_del_teclado_numerico(*e) && columna_numerica()) {
-        if (editor().tecla_casilla('.') != 0) insert(QStringLiteral("."));
+        if (mandos().tecla_casilla('.') != 0) insert(QStringLiteral("."));
         return;
     }
     const std::vector<int> codigos = codigos_tecleados(*e);
     for (const int codigo : codigos) {
-        if (editor().tecla_casilla(codigo) == 0) return;
+        if (mandos().tecla_casilla(codigo) == 0) return;
     }
     QLineEdit::keyPressEvent(e);
     if (!codigos.empty()) e->accept(); // a key that the box could not use is not a key of the grid
@@ -78,7 +78,7 @@ void Casilla::keyPressEvent(QKeyEvent* e) {
 void Casilla::inputMethodEvent(QInputMethodEvent* e) {
     QString pasa;
     for (const int codigo : codigos_de_texto(e->commitString())) {
-        const int resto = editor().tecla_casilla(codigo);
+        const int resto = mandos().tecla_casilla(codigo);
         if (resto != 0) pasa += texto_de_codigo(resto);
     }
     QInputMethodEvent filtrado(e->preeditString(), e->attributes());
@@ -89,7 +89,7 @@ void Casilla::inputMethodEvent(QInputMethodEvent* e) {
 
 void Casilla::focusOutEvent(QFocusEvent* e) {
     QLineEdit::focusOutEvent(e);
-    editor().casilla_pierde_foco(motivo_de(e->reason()));
+    mandos().casilla_pierde_foco(motivo_de(e->reason()));
 }
 
 bool Casilla::focusNextPrevChild(bool siguiente) {

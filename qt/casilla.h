@@ -30,7 +30,7 @@ protected:
     bool focusNextPrevChild(bool siguiente) override;
 
 private:
-    [[nodiscard]] EditorCelda& editor();
+    [[nodiscard]] Mandos& mandos();
     [[nodiscard]] bool columna_numerica();
 
     VistaRejilla& vista_;

@@ -28,7 +28,7 @@ ListaCelda::ListaCelda(VistaRejilla& vista)
     hide();
 }
 
-EditorCelda& ListaCelda::editor() { return vista_.tabla().mandos().editor(); }
+Mandos& ListaCelda::mandos() { return vista_.tabla().mandos(); }
 
 void ListaCelda::mueve(const QRect& celda) {
     label1_.setGeometry(celda);
@@ -68,7 +68,7 @@ bool ListaCelda::event(QEvent* e) {
 
 void ListaCelda::keyPressEvent(QKeyEvent* e) {
     for (const int codigo : codigos_tecleados(*e)) {
-        if (editor().tecla_lista(codigo) == 0) return;
+        if (mandos().tecla_lista(codigo) == 0) return;
     }
     QComboBox::keyPressEvent(e);
     e->accept(); // a key that the list could not use is not a key of the grid
@@ -84,7 +84,7 @@ bool ListaCelda::eventFilter(QObject* objeto, QEvent* e) {
             if (codigo != teclas::ESCAPE && view()->currentIndex().isValid())
                 setCurrentIndex(view()->currentIndex().row());
             hidePopup();
-            editor().tecla_lista(codigo);
+            mandos().tecla_lista(codigo);
             return true;
         }
     }
@@ -94,7 +94,7 @@ bool ListaCelda::eventFilter(QObject* objeto, QEvent* e) {
         if (entrada.isValid() && view()->isVisible()) {
             setCurrentIndex(entrada.row());
             hidePopup();
-            editor().clic_lista();
+            mandos().clic_lista();
             return true;
         }
     }
@@ -103,7 +103,7 @@ bool ListaCelda::eventFilter(QObject* objeto, QEvent* e) {
 
 void ListaCelda::focusOutEvent(QFocusEvent* e) {
     QComboBox::focusOutEvent(e);
-    editor().lista_pierde_foco(motivo_de(e->reason()));
+    mandos().lista_pierde_foco(motivo_de(e->reason()));
 }
 
 bool ListaCelda::focusNextPrevChild(bool siguiente) {

@@ -33,7 +33,7 @@ protected:
     void wheelEvent(QWheelEvent* e) override;
 
 private:
-    [[nodiscard]] EditorCelda& editor();
+    [[nodiscard]] Mandos& mandos();
 
     VistaRejilla& vista_;
     QLabel label1_;

@@ -125,7 +125,7 @@ void VistaRejilla::vista_desplazada() {
         viewport()->scroll(dx, 0, QRect(x0, 0, v.width() - x0, v.height()));
     }
     pon_barras();
-    tabla_.mandos().editor().recoloca();
+    tabla_.mandos().recoloca_editor();
 }
 
 void VistaRejilla::todo_cambiado() {
@@ -134,7 +134,7 @@ void VistaRejilla::todo_cambiado() {
         tablero().desplazamiento()};
     viewport()->update();
     pon_barras();
-    tabla_.mandos().editor().recoloca();
+    tabla_.mandos().recoloca_editor();
 }
 
 void VistaRejilla::pon_barras() {

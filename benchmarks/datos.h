@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+// The input that every contestant of a measurement gets: rows of ten columns, whole number, real with
+// three decimals, short text, list value and empty, twice; 6.6 bytes of text a cell on average.
+// Main names: DatosMedida, memoria_en_uso.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <malloc.h>
+#include <string>
+#include <vector>
+
+namespace Qlt4_Tabla::medida {
+
+inline constexpr int COLUMNAS = 10;
+/// Rows that the texts are made for; a longer table repeats them, so that the input itself stays small.
+inline constexpr int FILAS_DISTINTAS = 4096;
+
+class DatosMedida {
+public:
+    DatosMedida() {
+        textos_.reserve(std::size_t{FILAS_DISTINTAS} * COLUMNAS);
+        std::uint32_t x = 12345;
+        for (int i = 0; i < FILAS_DISTINTAS; ++i) {
+            for (int c = 0; c < COLUMNAS; ++c) {
+                x = x * 1664525U + 1013904223U;
+                textos_.push_back(texto(c % 5, x >> 8));
+            }
+        }
+    }
+
+    [[nodiscard]] const std::string& celda(int fila, int col) const {
+        const auto f = static_cast<std::size_t>(fila % FILAS_DISTINTAS);
+        return textos_[f * COLUMNAS + static_cast<std::size_t>(col)];
+    }
+
+private:
+    static std::string texto(int clase, std::uint32_t azar) {
+        switch (clase) {
+        case 0: return std::to_string(azar % 100000000U);
+        case 1: {
+            std::string decimales = std::to_string(1000U + azar % 1000U).substr(1);
+            return std::to_string(100000U + azar % 900000U) + "." + decimales;
+        }
+        case 2: return "Punto " + std::to_string(azar % 10000U);
+        case 3: return azar % 2 == 0 ? "Pasto" : "Arboleda";
+        default: return {};
+        }
+    }
+
+    std::vector<std::string> textos_;
+};
+
+inline const DatosMedida& datos() {
+    static const DatosMedida d;
+    return d;
+}
+
+/// Bytes that the program holds from the heap, large blocks included.
+inline std::size_t memoria_en_uso() {
+    const struct mallinfo2 m = mallinfo2();
+    return m.uordblks + m.hblkhd;
+}
+
+} // namespace Qlt4_Tabla::medida
