@@ -4,10 +4,12 @@
 // names, order and identifiers; none may change. What a member does is said at its rule, named in the
 // comment.
 //
-// Rows and columns are 0-based; row 0 is the header, column 0 the row numbers. Widths are twips unless a
-// line says units of 120 twips. Screen colours are 0x00BBGGRR. Errors: an Error with its number reaches
-// the caller only where the comment says so; any other trouble is shown in a message box "Tabla " +
-// member + " - Error nº " + number + ": " + description and the member returns.
+// Rows and columns are 0-based; row 0 is the header, column 0 the row numbers. Widths and heights are
+// twips, column widths of the formats units of 120 twips. Screen colours are 0x00BBGGRR; palette colours
+// 0 to 255, 0 meaning "by layer". "Error n": an Error with that number reaches the caller. Any other
+// trouble is shown in a message box, "Tabla " + member + " - Error nº " + number + ": " + description,
+// and the member returns normally, a get with 0, False or the empty text. A member marked (-) has its
+// place and no effect so far.
 #pragma once
 
 #include "base/imagen.h"
@@ -27,83 +29,145 @@ class _Tabla0 { // NOLINT(bugprone-reserved-identifier)
 public:
     virtual ~_Tabla0() = default;
 
+    /// Height of row Fil in twips; the row becomes current. Row outside the grid: nothing.
     virtual void A_Pon_Alto(std::int16_t Fil, std::int16_t Alto) = 0;
+    /// Picture of a cell, whose text stays; an empty pointer takes it away. Outside the grid: nothing.
     virtual void A_Pon_Imagen(
         std::int16_t Fil, std::int16_t Col, const std::shared_ptr<const Imagen>& Imag) = 0;
+    /// The current row, through 16 bits. Error 6: above 32767.
     virtual std::int32_t A_fila_Activa() = 0;
+    /// From now on colour cells are painted in their colour.
     virtual void A_Edicion_pon_Color() = 0;
+    /// From now on no right-click menu, no copy menu and no Delete key.
     virtual void A_Edicion_mn_Ratón_Off() = 0;
+    /// (-) Takes buttons off the toolbar.
     virtual void A_Edicion_Columnas_Off() = 0;
+    /// Special-points mode: a click in column 1 selects rows.
     virtual void A_Especial_puntos_ON() = 0;
+    /// (-) colResul = colA + colB, row by row. Errors 9: a column of 26 or more; 6: no finite result.
     virtual void m_Sumar_dos_ColumnasAyB(std::int32_t colA, std::int32_t colB, std::int32_t colResul) = 0;
+    /// (-) colResul = colA - colB; errors as the sum.
     virtual void m_Restar_dos_ColumnasA_B(std::int32_t colA, std::int32_t colB, std::int32_t colResul) = 0;
+    /// (-) Each row of colResul = the row of columna less the one above; errors as the sum.
     virtual void m_Diferencia_Parcial_1Columna(
         std::int32_t columna, std::int32_t colResul, bool ValNegativoColorRojo = false) = 0;
+    /// Text colour of a column's data cells; the selection collapses. Outside the grid: nothing.
     virtual void Color_Columna(std::int32_t columna, T_colores Color) = 0;
+    /// Appends a row filled by the columns' actions. Errors 9: more than 26 columns; 6: no more rows.
     virtual void crea_una_fila() = 0;
+    /// (-) The whole table to the clipboard.
     virtual void Copiar_Todo() = 0;
+    /// (-) The whole table to a spreadsheet.
     virtual void Copiar_todo_Excel() = 0;
+    /// (-) Working formats from the settings t_apli, t_cap. Error 9: more than 26 columns.
     virtual void Tablero_Lee_Formato_Win(const std::string& t_apli, const std::string& t_cap) = 0;
+    /// (-) Working formats to the settings; every error of the store.
     virtual void Tablero_Graba_Formato_Win(const std::string& t_apli, const std::string& t_cap) = 0;
+    /// Applies the working formats to grid and cells. Errors 6: a width beyond 16 bits; 9: a 27th column,
+    /// a list column without values at its first non-empty cell. After either redrawing stays off.
     virtual void Tablero_establece_Formato() = 0;
+    /// (-) Reads a table file.
     virtual void Tablero_Leer(const std::string& nombreFichero) = 0;
+    /// (-) Writes a table file.
     virtual void Tablero_Grabar(const std::string& nombreFichero) = 0;
+    /// The component's own size in twips, let with anything that converts to a Single; below 0 counts as 0.
     virtual void Width(const Variante& valor) = 0;
     [[nodiscard]] virtual Variante Width() = 0;
     virtual void Height(const Variante& valor) = 0;
     [[nodiscard]] virtual Variante Height() = 0;
+    /// Text of a cell. Let: a real column shows its decimals; outside the grid: nothing. Get: a numeric
+    /// column gives a decimal comma and "0" for an empty cell; outside: empty. Error 9: column above 25.
     virtual void TextMatrix(std::int32_t fila, std::int32_t colm, const std::string& valor) = 0;
     [[nodiscard]] virtual std::string TextMatrix(std::int32_t fila, std::int32_t colm) = 0;
+    /// Text colour of one cell, which becomes current; other values than 1 to 7: black. Outside: nothing.
     virtual void ColMatrix(std::int32_t fila, std::int32_t colm, T_colores valor) = 0;
+    /// The same as ColMatrix.
     virtual void Color_1Celda(std::int32_t fila, std::int32_t colm, T_colores valor) = 0;
+    /// Background between two columns of a row, in either order; the last one painted becomes current.
     virtual void Color_Fila(
         std::int32_t fila, std::int32_t columIni, std::int32_t colmFin, T_colores valor) = 0;
+    /// (-) True: as Tablero_establece_Formato.
     virtual void A_actualizaEditor(bool valor) = 0;
+    /// Pattern of the table files' names: five characters beginning with "*."; any other let is ignored.
     [[nodiscard]] virtual std::string A_ExtensionFche() = 0;
     virtual void A_ExtensionFche(const std::string& valor) = 0;
+    /// Rows, header included. Let: new rows are numbered, fewer drop the last ones; below 1: ignored.
     [[nodiscard]] virtual std::int32_t Rows() = 0;
     virtual void Rows(std::int32_t n) = 0;
+    /// Columns. Let: unnamed columns up to 25 get a name and, where they are 0, 3 decimals, text, width 10;
+    /// below 1: ignored.
     [[nodiscard]] virtual std::int32_t Cols() = 0;
     virtual void Cols(std::int32_t n) = 0;
+    /// A column's format, default and working, with "-" for a clear flag and any other text for a set
+    /// one; nothing is drawn. Error 9: column outside 0 to 25.
     virtual void Formatcol(std::int16_t Col, const std::string& Visib, const std::string& Bloqu,
         std::int16_t Formt, std::int16_t decim, std::int16_t posic, std::int16_t Longi,
         const std::string& nomb, std::int16_t Accion = 0) = 0;
+    /// The same, typed. Errors 9: column outside 0 to 25; 6: an enumeration beyond 16 bits.
     virtual void FormatoColumnas(std::int16_t Col, bool Invisib, bool Bloqu, T_formato Formato,
         std::int16_t decim, T_Alineacion Alinea, T_Accion Accion, std::int16_t Longit,
         const std::string& nomb) = 0;
+    /// Dragged widths of visible, unlocked columns into the working formats. Error 9: a 27th column.
     virtual void Editor_Tabl_graba() = 0;
+    /// Title (40 characters), subtitle (30) and extension (5). "X" as extension: a table without files.
     virtual void Tablero_Nombres(
         const std::string& Titulo, const std::string& subtitulo, const std::string& extens) = 0;
+    /// All default formats over the working ones; nothing is drawn.
     virtual void Tablero_Formato_por_defecto() = 0;
+    /// Row-number column off: width 0; the row count is shown once the formats are applied.
     virtual void Tablero_Fila_0_Off() = 0;
+    /// Shows or hides the file items of the menu.
     virtual void Ficheros_en_menu(bool Nvalor) = 0;
+    /// "SI" or "NO"; any other let is ignored.
     [[nodiscard]] virtual std::string A_GrabaRevoca() = 0;
     virtual void A_GrabaRevoca(const std::string& valor) = 0;
+    /// Accepts the value and does nothing.
     virtual void A_Col(std::int32_t valor) = 0;
+    /// First data row shown, clamped to 1..Rows - 1.
     virtual void A_RowTop(std::int32_t valor) = 0;
+    /// Text of all data cells in the default colour; backgrounds stay. Redrawing is on afterwards.
     virtual void tablero_sin_color() = 0;
+    /// False: the view hears of no change until True.
     virtual void Redraw(bool valor) = 0;
+    /// Allowed values of a list column (copied); any other column: message. Error 9: outside 0 to 25.
     virtual void Lista(std::int16_t columna, const Matriz<std::string>& valores) = 0;
+    /// Are equal neighbours down the column drawn as one? Outside the grid: False, let ignored.
     [[nodiscard]] virtual bool MergeCol(std::int16_t columna1) = 0;
     virtual void MergeCol(std::int16_t columna1, bool valor) = 0;
+    /// How marked columns merge: 0 and 2 not, 1 each alone, 3 within the column to the left; else ignored.
     [[nodiscard]] virtual std::int16_t MergeCells() = 0;
     virtual void MergeCells(std::int16_t valor) = 0;
+    /// Only the header row remains.
     virtual void Clear() = 0;
+    /// (-) A numeric column as array of bounds 1 to Rows - 1. Error 9: column outside 0 to 25.
     virtual void m_Obten_Matriz_Numerica_de_columna(std::int32_t columna, Matriz<double>& Matriz1) = 0;
+    /// (-) The same for the texts of any other column.
     virtual void m_Obten_Matriz_Alfanume_de_columna(std::int32_t columna, Matriz<std::string>& Matriz1) = 0;
+    /// (-) An array into a numeric column, element r into row r. Errors 9: column, bounds; 6: not finite.
     virtual void m_Asigna_Matriz_Numerica_a_Columna(std::int32_t columna, const Matriz<double>& Matriz1) = 0;
+    /// (-) The same for texts into any other column. Error 9.
     virtual void m__Asigna_Matriz_Alfanume_a_Columna(
         std::int32_t columna, const Matriz<std::string>& Matriz1) = 0;
+    /// Does nothing and changes no argument; not Show_Elige_Color.
     virtual void Show_Eleige_Color(const std::string& NumColorPreSeleccVb, bool PorCapa,
         std::int32_t NumColorPorCapaPreSeleccVb, bool Expandircolores, std::int32_t& NumColorElegiVB,
         std::int32_t& NumColorAutocad, std::string& NomColorAutocad) = 0;
+    /// (-) The colour picker: the chosen screen colour, or the one given.
     [[nodiscard]] virtual std::int32_t Show_Elige_Color(std::int32_t NumColorElegiVB) = 0;
+    /// Background of one cell, which becomes current. Get: 0 when never set. Outside: nothing, get 0.
     virtual void Color_Matrix(std::int32_t fila, std::int32_t colm, std::int32_t valor) = 0;
     [[nodiscard]] virtual std::int32_t Color_Matrix(std::int32_t fila, std::int32_t colm) = 0;
+    /// Screen colour of a colour cell: its background while colours are painted, else of the name or
+    /// number it holds. Errors 13: neither; 6: beyond 16 bits. Outside the grid: 0.
     [[nodiscard]] virtual std::int32_t Color_Matrix_en_VB(std::int32_t fila, std::int32_t colm) = 0;
+    /// Colour cell: its text becomes the name of the value as palette index (below 0: message, nothing
+    /// done); where colours are painted its background is, on purpose, the value as screen colour.
     virtual void Color_Matrix_en_Cad(std::int32_t fila, std::int32_t colm, std::int32_t valor) = 0;
+    /// The same for a palette index; never paints.
     virtual void Color_Matrix_de_Cad(std::int32_t fila, std::int32_t colm, std::int16_t valor) = 0;
+    /// The same for a screen colour, named by the palette.
     virtual void Color_Matrix_en_Cad_dado_N_VB(std::int32_t fila, std::int32_t colm, std::int32_t valor) = 0;
+    /// The same for a palette index, painted as its screen colour.
     virtual void Color_Matrix_en_Cad_dado_N_cad(std::int32_t fila, std::int32_t colm, std::int16_t valor) = 0;
 };
 
