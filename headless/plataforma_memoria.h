@@ -179,7 +179,7 @@ struct PlataformaMemoria {
     /// The seams as a table takes them (the event sink is handed over apart: `eventos`).
     [[nodiscard]] Plataforma plataforma();
     /// The lines so far, which are then forgotten.
-    [[nodiscard]] Registro recoge() { return std::exchange(registro, {}); }
+    Registro recoge() { return std::exchange(registro, {}); }
 };
 
 } // namespace Qlt4_Tabla

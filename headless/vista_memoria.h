@@ -16,7 +16,7 @@ public:
     std::vector<std::string> avisos;
 
     /// The notices so far, which are then forgotten.
-    [[nodiscard]] std::vector<std::string> recoge();
+    std::vector<std::string> recoge();
 
     void celdas_cambiadas(int fila1, int col1, int fila2, int col2) override;
     void filas_insertadas(int fila, int n) override;
