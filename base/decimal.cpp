@@ -127,7 +127,6 @@ std::size_t escribe_fijo(const Decimal& numero, int decimales, char* destino) no
         cifras = redondea(cifras, static_cast<int>(-ceros));
         ceros = 0;
     }
-    if (cifras == 0) ceros = 0;
     // `texto` and the zeros are the number counted in units of its last decimal.
     char memoria[maximas_cifras + 1];
     const std::string_view texto = escribe_cifras(cifras, memoria);

@@ -17,7 +17,7 @@ namespace Qlt4_Tabla {
 struct Decimal {
     bool negativo = false; // never for zero
     std::uint64_t cifras = 0; // below 10^15
-    int decimales = 0; // below 0: that many zeros follow the digits
+    int decimales = 0; // below 0 (never for zero): that many zeros follow the digits
 };
 
 // x rounded to `significativas` digits (1 to 15), without trailing zeros. Error 6 when x is not

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Array with a lower and an upper bound, as hosts hand them in and get them back:
+// Array with a lower and an upper bound, as hosts hand them in and get them back.
 //     Matriz<double> m(1, 3);   m[1] = 2.5;   m.UBound() == 3
 // An array that was never dimensioned has no bounds; one of bounds 1 to 0 has bounds and no
 // elements. Main name: Matriz.

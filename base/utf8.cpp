@@ -17,14 +17,13 @@ std::uint8_t byte(std::string_view texto, std::size_t pos) noexcept {
 
 bool es_continuacion(std::uint8_t b) noexcept { return (b & 0xC0) == 0x80; }
 
-// Bytes of the sequence that a leading byte announces; 0 for a byte that can lead none. C0, C1 and
-// F5 to FF would only lead overlong forms or values above 0x10FFFF.
+// Bytes of the sequence that a leading byte announces; 0 for a byte that can lead none.
 std::size_t bytes_anunciados(std::uint8_t primero) noexcept {
     if (primero < 0x80) return 1;
-    if (primero < 0xC2) return 0;
+    if (primero < 0xC0) return 0;
     if (primero < 0xE0) return 2;
     if (primero < 0xF0) return 3;
-    return primero < 0xF5 ? 4 : 0;
+    return primero < 0xF8 ? 4 : 0;
 }
 
 bool es_surrogado(char32_t punto) noexcept { return punto >= 0xD800 && punto <= 0xDFFF; }

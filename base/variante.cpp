@@ -19,7 +19,7 @@ concept Numerico = std::is_arithmetic_v<T>;
 
 } // namespace
 
-Variante Variante::omitido() noexcept {
+Variante Variante::omitido() {
     Variante v;
     v.valor_ = Omision{};
     return v;

@@ -58,7 +58,7 @@ public:
     Variante(PunteroImagen i) noexcept : valor_(std::move(i)) {}
 
     // An optional argument that was not given.
-    static Variante omitido() noexcept;
+    static Variante omitido();
 
     TipoVariante tipo() const noexcept { return static_cast<TipoVariante>(valor_.index()); }
 

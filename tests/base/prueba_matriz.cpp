@@ -100,6 +100,8 @@ TEST(Matriz, redimensionar_conservando_guarda_cada_valor_en_su_indice) {
     Matriz<double> m(1, {1.0, 2.0, 3.0});
     m.redimensiona_conservando(0, 2);
     EXPECT_EQ(m, (Matriz<double>(0, {0.0, 1.0, 2.0})));
+    m.redimensiona_conservando(1, 3);
+    EXPECT_EQ(m, (Matriz<double>(1, {1.0, 2.0, 0.0})));
     m.redimensiona_conservando(5, 6);
     EXPECT_EQ(m, (Matriz<double>(5, {0.0, 0.0})));
     m.redimensiona_conservando(5, 4);

@@ -105,7 +105,7 @@ TEST(Utf8, cada_byte_que_sobra_es_un_caracter) {
         "\xC3", "\xE2\x82", "\xF0\x9D\x84", // cut off
         "\xC0\x80", "\xE0\x80\x80", "\xF0\x80\x80\x80", // overlong
         "\xED\xA0\x80", "\xED\xBF\xBF", // surrogates
-        "\xF4\x90\x80\x80", // above 0x10FFFF
+        "\xF4\x90\x80\x80", "\xF8\x90\x80\x80", "\xFF\x90\x80\x80", // above 0x10FFFF
     };
     for (const std::string& texto : no_validos) {
         EXPECT_FALSE(utf8::es_valido(texto));
