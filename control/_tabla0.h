@@ -107,7 +107,8 @@ public:
     virtual void FormatoColumnas(std::int16_t Col, bool Invisib, bool Bloqu, T_formato Formato,
         std::int16_t decim, T_Alineacion Alinea, T_Accion Accion, std::int16_t Longit,
         const std::string& nomb) = 0;
-    /// Dragged widths of visible, unlocked columns into the working formats. Error 9: a 27th column.
+    /// Dragged widths of visible, unlocked columns into the working formats. Errors 9: a 27th column;
+    /// 6: a width beyond 16 bits.
     virtual void Editor_Tabl_graba() = 0;
     /// Title (40 characters), subtitle (30) and extension (5). "X" as extension: a table without files.
     virtual void Tablero_Nombres(

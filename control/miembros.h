@@ -172,7 +172,7 @@ inline constexpr std::array<Miembro, 57> MIEMBROS{{
         {ref("Col", I2), ref("Invisib", Bool), ref("Bloqu", Bool), ref("Formato", Formato), ref("decim", I2),
             ref("Alinea", Alineacion), ref("Accion", Accion), ref("Longit", I2), ref("nomb", Str)},
         NADA, {6, 9}},
-    {32, "Editor_Tabl_graba", 0x6003007d, Metodo, {}, NADA, {9}},
+    {32, "Editor_Tabl_graba", 0x6003007d, Metodo, {}, NADA, {6, 9}},
     {33, "Tablero_Nombres", 0x6003007e, Metodo,
         {ref("Titulo", Str), ref("subtitulo", Str), ref("extens", Str)}, NADA},
     {34, "Tablero_Formato_por_defecto", 0x6003007f, Metodo, {}, NADA},
