@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "qt/casilla.h"
 
+#include "qt/accesible.h"
 #include "qt/pintor_rejilla.h"
 #include "qt/teclas_qt.h"
 #include "qt/vista_rejilla.h"
@@ -45,6 +46,7 @@ void Casilla::muestra(const QRect& celda, const QString& texto) {
     case AlineacionCelda::Derecha: setAlignment(Qt::AlignRight | Qt::AlignVCenter); break;
     }
     setText(texto);
+    setAccessibleName(lugar_de_celda(vista_.tabla(), vista_.tablero().Row(), col));
     show();
     setFocus(Qt::OtherFocusReason);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "qt/lista_celda.h"
 
+#include "qt/accesible.h"
 #include "qt/casilla.h"
 #include "qt/teclas_qt.h"
 #include "qt/vista_rejilla.h"
@@ -41,6 +42,7 @@ void ListaCelda::muestra(const QRect& celda, const QStringList& entradas, int el
     clear();
     addItems(entradas);
     setCurrentIndex(elegida);
+    setAccessibleName(lugar_de_celda(vista_.tabla(), vista_.tablero().Row(), vista_.tablero().Col()));
     mueve(celda);
     label1_.show();
     show();

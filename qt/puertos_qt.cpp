@@ -70,6 +70,7 @@ void PuertosQt::filas_borradas(int fila, int n) {
 
 void PuertosQt::columnas_cambiadas() {
     if (vista_) vista_->todo_cambiado();
+    if (vista_) emit widget_.contenido_cambiado();
 }
 
 void PuertosQt::seleccion_cambiada() {
@@ -130,8 +131,11 @@ void PuertosQt::muestra(const Rectangulo& celda, std::string_view texto) {
     if (casilla_) casilla_->muestra(px(celda), a_q(texto));
 }
 
+// Hiding a widget that has the focus gives it to the next one of the form; the grid takes it before.
 void PuertosQt::oculta() {
-    if (casilla_) casilla_->hide();
+    if (!casilla_) return;
+    if (casilla_->hasFocus()) enfoca_tablero();
+    casilla_->hide();
 }
 
 void PuertosQt::mueve(const Rectangulo& celda) {
@@ -169,7 +173,9 @@ void PuertosQt::Lista::muestra(const Rectangulo& celda, std::span<const std::str
 }
 
 void PuertosQt::Lista::oculta() {
-    if (p_.cob_lista_) p_.cob_lista_->oculta();
+    if (!p_.cob_lista_) return;
+    if (p_.cob_lista_->hasFocus()) p_.enfoca_tablero();
+    p_.cob_lista_->oculta();
 }
 
 void PuertosQt::Lista::mueve(const Rectangulo& celda) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "qt/tabla_widget.h"
 
+#include "qt/accesible.h"
 #include "qt/casilla.h"
 #include "qt/colores_qt.h"
 #include "qt/lista_celda.h"
@@ -66,6 +67,7 @@ struct TablaWidget::Interior {
 
 TablaWidget::TablaWidget(QWidget* padre) : QWidget(padre), yo_(std::make_unique<Interior>(*this)) {
     setFocusProxy(yo_->vista);
+    hazlo_accesible(*this, *yo_->vista);
     yo_->numero_filas->setObjectName(QStringLiteral("labNumeroFilas"));
     yo_->mensaje->setObjectName(QStringLiteral("labMensaje"));
     for (QLabel* etiqueta : {yo_->numero_filas, yo_->mensaje}) etiqueta->setTextFormat(Qt::PlainText);
@@ -103,10 +105,13 @@ QSize TablaWidget::minimumSizeHint() const { return {120, 90}; }
 void TablaWidget::refresca_etiquetas() {
     const Etiquetas& e = yo_->tabla.estado().etiquetas;
     const auto pon = [](QLabel* label, const Etiqueta& etiqueta) {
-        label->setText(etiqueta.visible ? QString::fromStdString(etiqueta.texto) : QString());
+        const QString texto = etiqueta.visible ? QString::fromStdString(etiqueta.texto) : QString();
+        const bool nuevo = texto != label->text();
+        label->setText(texto);
+        return nuevo && !texto.isEmpty();
     };
     pon(yo_->numero_filas, e.labNumeroFilas);
-    pon(yo_->mensaje, e.labMensaje);
+    if (pon(yo_->mensaje, e.labMensaje)) anuncia(*yo_->mensaje);
     yo_->tira->setFixedHeight(fontMetrics().height() + 6);
     QPalette p = palette();
     p.setColor(QPalette::WindowText, es_oscura(p) ? QColor(0xFF, 0x9A, 0x8A) : QColor(0xA8, 0x1C, 0x07));

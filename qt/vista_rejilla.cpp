@@ -74,6 +74,9 @@ void VistaRejilla::repinta_filas(int fila1, int fila2) {
 }
 
 void VistaRejilla::celdas_cambiadas(int fila1, int col1, int fila2, int col2) {
+    const int fila = tablero().Row();
+    const int col = tablero().Col();
+    if (fila1 <= fila && fila <= fila2 && col1 <= col && col <= col2) emit celda_actual_cambiada();
     if (pedidos_ >= MAX_PEDIDOS) return;
     const bool una = fila1 == fila2 && col1 == col2 && !tablero().MergeCol(col1);
     if (!una) {

@@ -41,6 +41,8 @@ public:
 signals:
     /// The current cell or the selection was drawn anew (for accessibility).
     void cursor_movido();
+    /// The current cell got another text, colour or picture.
+    void celda_actual_cambiada();
 
 protected:
     bool event(QEvent* e) override;
