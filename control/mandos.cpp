@@ -6,6 +6,7 @@
 #include "editing/filas.h"
 
 #include <algorithm>
+#include <array>
 
 namespace Qlt4_Tabla {
 
@@ -15,6 +16,38 @@ namespace {
 constexpr std::string_view TABLERO = "Tablero";
 constexpr std::string_view CASILLA = "Casilla";
 constexpr std::string_view LISTA = "cobLista";
+
+struct Orden {
+    Opcion opcion;
+    std::string_view nombre; // the place that the message of an error names
+    void (*ejecuta)(EstadoTabla&);
+};
+
+/// The mark of the advance; its second menu item shows the same.
+void alterna_avance(EstadoTabla& e) {
+    const bool marcada = !e.menus[Opcion::MN_avance_horizontal].marcada;
+    e.menus[Opcion::MN_avance_horizontal].marcada = marcada;
+    e.menus[Opcion::mn_Especial_puntos_Avance].marcada = marcada;
+    e.plataforma.marco.menus_cambiados();
+}
+
+void rehace(EstadoTabla& e) {
+    e.revoca.Rehace(e.menus);
+    e.plataforma.marco.menus_cambiados();
+}
+
+constexpr std::array<Orden, 10> ORDENES{{
+    {Opcion::mn_Deshacer, "mn_Deshacer", [](EstadoTabla&) {}}, // undo does nothing
+    {Opcion::mn_Rehacer, "mn_Rehacer", rehace},
+    {Opcion::mn_insertar_filas, "mn_insertar_filas", mn_insertar_filas},
+    {Opcion::mn_eliminar_filas, "mn_eliminar_filas", mn_eliminar_filas},
+    {Opcion::mn_añadir_filas, "mn_añadir_filas", mn_añadir_filas},
+    {Opcion::mn_eliminar_vacias, "mn_eliminar_vacias", mn_eliminar_vacias},
+    {Opcion::mn_borrar_seleccion, "mn_borrar_seleccion", mn_borrar_seleccion},
+    {Opcion::MN_avance_horizontal, "MN_avance_horizontal", alterna_avance},
+    {Opcion::mn_Especial_puntos_Avance, "mn_Especial_puntos_Avance", alterna_avance},
+    {Opcion::mn_salir, "mn_salir", [](EstadoTabla& e) { e.eventos.Salir(); }},
+}};
 
 } // namespace
 
@@ -133,6 +166,17 @@ void Mandos::lista_pierde_foco(MotivoFoco motivo) {
 
 void Mandos::recoloca_editor() {
     protege(TABLERO, [&] { editor_.recoloca(); });
+}
+
+bool Mandos::orden(Opcion opcion) {
+    const auto* const o =
+        std::find_if(ORDENES.begin(), ORDENES.end(), [&](const Orden& una) { return una.opcion == opcion; });
+    if (o == ORDENES.end()) return false;
+    protege(o->nombre, [&] {
+        editor_.confirma_y_cierra();
+        o->ejecuta(e_);
+    });
+    return true;
 }
 
 void Mandos::vista_redimensionada(int ancho, int alto) {

@@ -51,6 +51,10 @@ public:
     /// To be called when a notice of the view says that widths, heights, rows or the place of the view changed.
     void recoloca_editor();
 
+    /// A command chosen from a menu, a toolbar or by a shortcut: commits an open editor and runs it. An item
+    /// that has no command here: false, and nothing happens.
+    bool orden(Opcion opcion);
+
     /// For asking what is open; keys and focus go through the calls above.
     EditorCelda& editor() { return editor_; }
 

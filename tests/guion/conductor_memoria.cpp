@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: MIT
+#include "tests/guion/conductor_memoria.h"
+
+#include "base/pagina1252.h"
+#include "base/utf8.h"
+#include "tests/guion/palabras.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace Qlt4_Tabla {
+
+ConductorMemoria::ConductorMemoria() {
+    p_.foco.casilla_pierde = [this] { tabla_.mandos().casilla_pierde_foco(motivo_); };
+    p_.foco.lista_pierde = [this] { tabla_.mandos().lista_pierde_foco(motivo_); };
+    tabla_.mandos().vista_redimensionada(12000, 6000);
+}
+
+void ConductorMemoria::pulsa(const Pulsacion& tecla) {
+    switch (p_.foco.actual()) {
+    case Foco::Tablero: pulsa_en_tablero(tecla); break;
+    case Foco::Casilla: pulsa_en_casilla(tecla); break;
+    case Foco::Lista: pulsa_en_lista(tecla); break;
+    case Foco::Nadie: break;
+    }
+    obedece();
+}
+
+void ConductorMemoria::pulsa_en_tablero(const Pulsacion& tecla) {
+    if (tabla_.mandos().tecla_abajo(tecla.KeyCode, tecla.mods)) return;
+    const bool mando = tecla.mods.contiene(teclas::CONTROL) || tecla.mods.contiene(teclas::ALT);
+    if (tecla.caracter != 0 && !mando) tabla_.mandos().tecla_pulsada(codigo_tecla(tecla.caracter));
+}
+
+void ConductorMemoria::pulsa_en_casilla(const Pulsacion& tecla) {
+    if (tecla.caracter == 0) return mueve_cursor(tecla.KeyCode);
+    const int pasa = tabla_.mandos().tecla_casilla(codigo_tecla(tecla.caracter));
+    if (pasa == 0) return;
+    if (pasa == teclas::RETROCESO)
+        p_.casilla.retrocede();
+    else
+        p_.casilla.inserta(utf8::codifica(punto_de_tecla(pasa)));
+}
+
+void ConductorMemoria::pulsa_en_lista(const Pulsacion& tecla) {
+    const int ultima = static_cast<int>(p_.lista.entradas().size()) - 1;
+    if (tecla.KeyCode == teclas::ABAJO)
+        p_.lista.elige(std::min(p_.lista.elegida() + 1, ultima));
+    else if (tecla.KeyCode == teclas::ARRIBA)
+        p_.lista.elige(std::max(p_.lista.elegida() - 1, 0));
+    else if (tecla.caracter != 0)
+        tabla_.mandos().tecla_lista(codigo_tecla(tecla.caracter));
+}
+
+// The box's own keys.
+void ConductorMemoria::mueve_cursor(int KeyCode) {
+    const int largo = static_cast<int>(utf8::longitud(p_.casilla.texto()));
+    switch (KeyCode) {
+    case teclas::IZQUIERDA: p_.casilla.selecciona(p_.casilla.cursor() - 1, 0); break;
+    case teclas::DERECHA: p_.casilla.selecciona(p_.casilla.cursor() + 1, 0); break;
+    case teclas::INICIO: p_.casilla.selecciona(0, 0); break;
+    case teclas::FIN: p_.casilla.selecciona(largo, 0); break;
+    default: break;
+    }
+}
+
+Celda ConductorMemoria::punto_de(Celda celda) const {
+    const Tablero& t = tabla_.tablero();
+    if (celda.fila < 0) return {t.alto_vista() - 1, t.ancho_vista() - 1};
+    const Rectangulo r = parte_visible(t, celda.fila, celda.col);
+    if (r.ancho <= 0 || r.alto <= 0) throw FalloGuion("the cell is not seen");
+    return {r.arriba + r.alto / 2, r.izquierda + r.ancho / 2};
+}
+
+void ConductorMemoria::abajo(Celda celda, Modificadores mods) {
+    const Celda p = punto_de(celda);
+    if (celda.fila < 0 && celda_en(tabla_.tablero(), p.col, p.fila) != Celda{})
+        throw FalloGuion("the window shows no place beyond the last cell");
+    p_.foco.pide(Foco::Tablero);
+    tabla_.mandos().raton_abajo(p.col, p.fila, Boton::Izquierdo, mods);
+}
+
+void ConductorMemoria::clic(Celda celda, Modificadores mods) {
+    const Celda p = punto_de(celda);
+    abajo(celda, mods);
+    tabla_.mandos().raton_arriba(p.col, p.fila, Boton::Izquierdo);
+    obedece();
+}
+
+void ConductorMemoria::doble_clic(Celda celda) {
+    const Celda p = punto_de(celda);
+    clic(celda, {});
+    tabla_.mandos().doble_clic(p.col, p.fila);
+    tabla_.mandos().raton_arriba(p.col, p.fila, Boton::Izquierdo);
+    obedece();
+}
+
+void ConductorMemoria::arrastra(Celda desde, Celda hasta, Modificadores mods) {
+    abajo(desde, mods);
+    const Celda p = punto_de(hasta);
+    tabla_.mandos().raton_mueve(p.col, p.fila);
+    tabla_.mandos().raton_arriba(p.col, p.fila, Boton::Izquierdo);
+    obedece();
+}
+
+void ConductorMemoria::rueda(int signo) {
+    tabla_.mandos().rueda(signo);
+    obedece();
+}
+
+void ConductorMemoria::elige_entrada(std::string_view texto, bool con_raton) {
+    if (!p_.lista.visible()) throw FalloGuion("the list is not open");
+    p_.lista.elige(texto);
+    if (p_.lista.elegida() < 0) throw FalloGuion("no such entry: " + std::string(texto));
+    if (con_raton) tabla_.mandos().clic_lista();
+    obedece();
+}
+
+void ConductorMemoria::pierde_foco(MotivoFoco motivo) {
+    motivo_ = motivo;
+    antes_ = p_.foco.actual();
+    p_.foco.pide(Foco::Nadie);
+    motivo_ = MotivoFoco::Otro;
+}
+
+void ConductorMemoria::recupera_foco() {
+    const bool casilla = antes_ == Foco::Casilla && p_.casilla.visible();
+    const bool lista = antes_ == Foco::Lista && p_.lista.visible();
+    p_.foco.pide(casilla || lista ? antes_ : Foco::Tablero);
+}
+
+void ConductorMemoria::arrastra_borde(int col, int twips) {
+    tabla_.mandos().arrastra_borde(col, twips);
+    obedece();
+}
+
+void ConductorMemoria::ventana(int ancho, int alto) { tabla_.mandos().vista_redimensionada(ancho, alto); }
+
+void ConductorMemoria::al_suceder(std::function<void(std::string_view)> hace) {
+    p_.eventos.al_suceder = std::move(hace);
+}
+
+std::vector<std::string> ConductorMemoria::recoge() {
+    obedece();
+    return p_.recoge();
+}
+
+EditorVisto ConductorMemoria::editor() {
+    EditorVisto visto;
+    visto.casilla = p_.casilla.visible();
+    visto.lista = p_.lista.visible();
+    if (visto.casilla) {
+        visto.texto = p_.casilla.texto();
+        visto.cursor = p_.casilla.cursor();
+        visto.marca_inicio = p_.casilla.inicio_seleccion();
+        visto.marca_longitud = p_.casilla.longitud_seleccion();
+        visto.sitio = p_.casilla.celda();
+    } else if (visto.lista) {
+        visto.texto = p_.lista.texto();
+        visto.entradas = p_.lista.entradas();
+        visto.sitio = p_.lista.celda();
+    }
+    return visto;
+}
+
+void ConductorMemoria::obedece() {
+    if (!p_.vista.recoge().empty()) tabla_.mandos().recoloca_editor();
+}
+
+} // namespace Qlt4_Tabla

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+// ConductorMemoria: drives a table without a window: keys go to whoever has the focus in the platform in
+// memory, as a front end would hand them over.
+#pragma once
+
+#include "headless/plataforma_memoria.h"
+#include "tests/guion/conductor.h"
+
+namespace Qlt4_Tabla {
+
+class ConductorMemoria final : public Conductor {
+public:
+    ConductorMemoria();
+
+    void pulsa(const Pulsacion& tecla) override;
+    void clic(Celda celda, Modificadores mods) override;
+    void doble_clic(Celda celda) override;
+    void arrastra(Celda desde, Celda hasta, Modificadores mods) override;
+    void rueda(int signo) override;
+    void elige_entrada(std::string_view texto, bool con_raton) override;
+    void pierde_foco(MotivoFoco motivo) override;
+    void recupera_foco() override;
+    void arrastra_borde(int col, int twips) override;
+    void ventana(int ancho, int alto) override;
+
+    [[nodiscard]] Tabla0& tabla() override { return tabla_; }
+
+    void al_suceder(std::function<void(std::string_view)> hace) override;
+    [[nodiscard]] std::vector<std::string> recoge() override;
+    [[nodiscard]] EditorVisto editor() override;
+
+    [[nodiscard]] PlataformaMemoria& plataforma() { return p_; }
+
+private:
+    void pulsa_en_tablero(const Pulsacion& tecla);
+    void pulsa_en_casilla(const Pulsacion& tecla);
+    void pulsa_en_lista(const Pulsacion& tecla);
+    void mueve_cursor(int KeyCode);
+    void abajo(Celda celda, Modificadores mods);
+    [[nodiscard]] Celda punto_de(Celda celda) const; // a place on the cell, in twips
+    void obedece(); // what a view does with the notices of the grid
+
+    PlataformaMemoria p_;
+    Tabla0 tabla_{p_.plataforma(), p_.eventos};
+    MotivoFoco motivo_ = MotivoFoco::Otro;
+    Foco antes_ = Foco::Tablero;
+};
+
+} // namespace Qlt4_Tabla

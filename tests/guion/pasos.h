@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+// The words of the scripts: what the host does, what the user does, what is asked. Each file holds one
+// table from the first word to its action.
+#pragma once
+
+#include "tests/guion/conductor.h"
+#include "tests/guion/palabras.h"
+
+#include <string_view>
+
+namespace Qlt4_Tabla {
+
+// Steps of the host (anfitrion.cpp):
+//   nombres TITLE SUBTITLE EXTENSION        columnas N          filas N
+//   formato COL NAME KIND [options]         kind as in T_formato; options: a number (decimals), invisible,
+//                                           bloqueada, ancho=N, an alignment, a fill action
+//   establece                               applies the formats
+//   lista COL A|B|C                         values of a list column; without values: an empty list
+//   texto ROW COL TEXT                      fondo ROW COL COLOUR        alto ROW TWIPS
+//   llama MEMBER ARGUMENTS...               any published method         pone MEMBER ARGUMENTS... VALUE
+/// False when the first word is none of them.
+[[nodiscard]] bool paso_anfitrion(Conductor& conductor, std::string_view palabra, Palabras& resto);
+
+// Steps of the user (usuario.cpp):
+//   pulsa [Mayus+][Ctrl+][Alt+]KEY          one key by its name (tecla is the same word)
+//   teclea TEXT                             the keys of a text, one after another
+//   clic ROW COL [Mayus]    clic fuera      doble ROW COL
+//   arrastra ROW COL ROW COL [Mayus]        rueda SIGN [TIMES]
+//   entrada TEXT            clic_entrada TEXT      in the open list, by the keyboard or with the mouse
+//   foco fuera|menu|ventana|vuelve          borde COL TWIPS
+//   ventana WIDTH ROWS                      room for so many data rows below the header
+//   elige ROW COL [ROW COL]                 as an assistive program or the host moves the cursor
+//   orden ITEM                              a command by the name of its menu item
+[[nodiscard]] bool paso_usuario(Conductor& conductor, std::string_view palabra, Palabras& resto);
+
+// Questions (preguntas.cpp), each after "?":
+//   celda ROW COL = TEXT    leida ROW COL = TEXT (as the host reads it)     fondo ROW COL = COLOUR|nada
+//   filas N    columnas N   actual ROW COL   seleccion ROW COL ROW COL (current cell, far corner)
+//   modo libre|filas        arriba ROW       ve ROW COL (the cell is seen whole)    ancho COL = TWIPS
+//   casilla abierta TEXT [cursor N] [marca START LENGTH]      casilla cerrada
+//   lista abierta TEXT      lista cerrada    entradas A|B|C   editor cerrado
+//   editor sobre ROW COL                     which cell is edited, and the editor lies over it
+//   mensaje visible TEXT    mensaje oculto   mensaje estado TEXT (hidden, with this caption)
+//   modificado 0|1          marcada ITEM si|no
+/// Fails with a FalloGuion when the answer is another one.
+void pregunta(Conductor& conductor, std::string_view texto);
+
+/// A menu item by its name; fails when there is none.
+[[nodiscard]] Opcion opcion_de_nombre(std::string_view nombre);
+
+} // namespace Qlt4_Tabla
