@@ -272,6 +272,16 @@ TEST_F(Formatos_en_tablero, gana_el_ultimo_que_escribe_la_cuenta) {
     EXPECT_EQ(cuenta(), "Ejes: Nº de filas = 5");
 }
 
+TEST_F(Formatos_en_tablero, la_cuenta_se_escribe_tras_el_ancho_de_la_columna_0_y_antes_de_las_columnas) {
+    f(0).Longitud = 274;
+    EXPECT_EQ(error_al_establecer(), 6);
+    EXPECT_EQ(cuenta(), "");
+    f(0).Invisible = true; // width 0 without a product; it overflows later, as a column like the others
+    EXPECT_EQ(error_al_establecer(), 6);
+    EXPECT_EQ(cuenta(), ": Nº de filas = 3");
+    EXPECT_EQ(t().ColWidth(0), 0);
+}
+
 TEST_F(Formatos_en_tablero, sin_columna_0_el_ancho_es_0_y_la_cuenta_se_ve) {
     Formatcol(e, 0, "X", "-", 4, 0, 0, 8, "", 0);
     Tablero_establece_Formato(e);

@@ -272,8 +272,10 @@ TEST_F(Superficie, A_Pon_Alto_hace_actual_la_fila_y_le_da_su_alto) {
 }
 
 TEST_F(Superficie, A_Pon_Alto_con_alto_negativo_solo_mueve_la_fila) {
+    A_Pon_Alto(e, 2, 600);
+    A_Pon_Alto(e, 1, 600);
     A_Pon_Alto(e, 2, -5);
-    EXPECT_EQ(t().RowHeight(2), t().alto_normal());
+    EXPECT_EQ(t().RowHeight(2), 600);
     EXPECT_EQ(t().Row(), 2);
     A_Pon_Alto(e, 2, 0);
     EXPECT_EQ(t().RowHeight(2), 0);
