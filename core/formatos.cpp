@@ -70,6 +70,16 @@ void establece_columna(EstadoTabla& e, int col) {
     alinea_columna(e.tablero, col, f.Alineacion);
 }
 
+/// Formato_Numero of the number's text; without decimals that is the text itself.
+void muestra_numero(double x, int decimales, std::string& destino) {
+    if (decimales > 0) {
+        Formato_Numero(x, 0, decimales, destino);
+        return;
+    }
+    char cifras[capacidad_numero];
+    destino.assign(cifras, escribe_numero(x, cifras, capacidad_numero));
+}
+
 /// Every number of the column in the form of its decimals; cells that have it already are left.
 void reformatea_numeros(EstadoTabla& e, int col, int decimales) {
     bool preguntado = false; // the separator, once a column instead of once a cell
@@ -77,7 +87,7 @@ void reformatea_numeros(EstadoTabla& e, int col, int decimales) {
         col, 1, e.tablero.Rows() - 1, [&](int, std::string_view texto, std::string& nuevo) {
             if (texto.empty()) return false;
             if (!std::exchange(preguntado, true)) refresca_ComaDecimal(e);
-            Formato_Numero(Valor_Numerico(texto), 0, decimales, nuevo);
+            muestra_numero(Valor_Numerico(texto), decimales, nuevo);
             return nuevo != texto;
         });
 }
