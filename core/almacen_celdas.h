@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 // AlmacenCeldas: the texts of the grid, up to a few tens of columns by millions of rows.
 //
-// Rows stand packed as runs of bytes in chunks of up to FILAS_POR_TROZO rows: one length byte a cell,
-// then the texts; texts of LARGO bytes and more stand apart. Trailing empty cells and empty rows take
-// nothing. Chunks stand behind an index of their first rows, so a write touches one chunk and a row
-// inserted or removed moves one chunk's bytes and the index, never the table. Chunks grow in blocks and
-// never by doubling. Cost: read and write O(1) near the last place used, else O(log chunks); insert and
-// remove O(chunk + chunks).
+// Rows stand packed as runs of bytes (core/fila_empaquetada.h) in chunks (core/trozo.h) behind an index of
+// their first rows (core/indice_trozos.h): a write touches one chunk, a row inserted or removed moves one
+// chunk's bytes and the index, never the table. Rows that hold nothing take nothing, however many.
+// Cost: read and write O(1) near the last place used, else O(log chunks); insert and remove O(chunk +
+// chunks).
 //
 // Row numbers: the text of column 0 of a data row is its own row number, derived and not stored, unless
-// something else was written there. A row made by `inserta` or `pon_filas` starts without number.
+// something else was written there; it follows the row when the row moves. A row made by `inserta` or
+// `pon_filas` starts without number. Row 0 never shows a number.
+// Without memory: std::bad_alloc; a call for one cell or for the counts has then changed nothing.
 #pragma once
 
 #include <cstddef>
@@ -22,6 +23,20 @@
 #include <vector>
 
 namespace Qlt4_Tabla {
+
+/// The rows whose text a call changed lie between these, ends inclusive; -1 when none did.
+struct FilasCambiadas {
+    int primera = -1;
+    int ultima = -1;
+
+    [[nodiscard]] bool hay() const { return primera >= 0; }
+
+    /// Takes in rows further down.
+    void extiende(int desde, int hasta) {
+        if (primera < 0) primera = desde;
+        ultima = hasta;
+    }
+};
 
 class AlmacenCeldas {
 public:
@@ -40,13 +55,17 @@ public:
     /// The text of a cell inside the grid (not checked). The view holds until the table changes or the
     /// text of another derived row number is asked for.
     [[nodiscard]] std::string_view texto(int fila, int col) const;
-    void pon_texto(int fila, int col, std::string_view texto);
-    /// Replaces a whole row from column `col` on by `textos`, in one go; cells beyond them stay.
-    void pon_fila(int fila, int col, std::span<const std::string_view> textos);
-    /// Rewrites column `col` of rows `desde`..`hasta`, a chunk at a time: `cambia(fila, texto, nuevo)`
-    /// returns true when the cell takes the text it put into `nuevo`, false to leave it. If it throws,
-    /// the rows before stay rewritten and nothing is lost.
-    void transforma(int col, int desde, int hasta,
+    /// The texts of neighbouring cells of one row from column `col` on, in one go.
+    void lee_fila(int fila, int col, std::span<std::string_view> textos) const;
+    /// True when the cell had another text. The text may be a view of this store.
+    bool pon_texto(int fila, int col, std::string_view texto);
+    /// Writes neighbouring cells of one row from column `col` on, in one go; the others stay. True when any
+    /// had another text.
+    bool pon_fila(int fila, int col, std::span<const std::string_view> textos);
+    /// Rewrites column `col` of rows `desde`..`hasta` in one pass: `cambia(fila, texto, nuevo)` returns true
+    /// when the cell takes the text it put into `nuevo` (empty before), false to leave it. It may read the
+    /// store and not write it. If it throws, the rows before stay rewritten and nothing is lost.
+    FilasCambiadas transforma(int col, int desde, int hasta,
         const std::function<bool(int, std::string_view, std::string&)>& cambia);
     /// Are the texts of two cells equal? Safe for two row numbers.
     [[nodiscard]] bool iguales(int fila1, int col1, int fila2, int col2) const;
@@ -56,21 +75,23 @@ public:
     void borra(int fila, int n);
     /// Removes all rows whose index (ascending, no doubles) is in `filas`, in one pass over the chunks.
     void borra_varias(std::span<const int> filas);
-    /// Gives every row from 1 on its own number as text of column 0. Cheap when none was overwritten.
-    void numera();
+    /// Gives every row from 1 on its own number as text of column 0. Cost: only the rows between the first
+    /// and the last that were made or overwritten since the last call.
+    FilasCambiadas numera();
 
     /// Text colour of a cell, 0x00BBGGRR; 0 when never set.
     [[nodiscard]] std::int32_t color_texto(int fila, int col) const;
-    /// Sets it in a rectangle (inclusive, ascending); 0 frees what was stored.
-    void pon_color_texto(int fila1, int col1, int fila2, int col2, std::int32_t color);
+    /// Sets it in a rectangle (inclusive, ascending); 0 frees what was stored. True when any cell had another.
+    bool pon_color_texto(int fila1, int col1, int fila2, int col2, std::int32_t color);
     /// Background colour of a cell; 0 when never set: ask `tiene_fondo` to tell it from black.
     [[nodiscard]] std::int32_t color_fondo(int fila, int col) const;
     [[nodiscard]] bool tiene_fondo(int fila, int col) const;
-    void pon_color_fondo(int fila1, int col1, int fila2, int col2, std::int32_t color);
+    bool pon_color_fondo(int fila1, int col1, int fila2, int col2, std::int32_t color);
 
     /// Own height of a row in twips, or -1.
     [[nodiscard]] int alto(int fila) const;
-    void pon_alto(int fila, int twips);
+    /// Negative: the row has no height of its own any more. True when it had another one.
+    bool pon_alto(int fila, int twips);
     /// Any row with a height of its own?
     [[nodiscard]] bool hay_altos() const;
 

@@ -30,13 +30,15 @@ struct Celda {
 /// The cell at a point: header and row numbers win over what is scrolled behind them.
 [[nodiscard]] Celda celda_en(const Tablero& t, int x, int y);
 /// The same, but points outside give the nearest data cell in reach, one row or column beyond the window
-/// where the drag has to scroll: for dragging a selection.
+/// where the drag has to scroll: for dragging a selection. Columns without width are passed over; -1 where
+/// there are no data rows or no columns to be seen.
 [[nodiscard]] Celda celda_mas_cercana(const Tablero& t, int x, int y);
 /// The column whose right edge is within `tolerancia` of x, or -1. Columns of width 0 are found from the
 /// right side of the edge, so that a hidden column can be dragged open again only by formats: never found.
 [[nodiscard]] int borde_en(const Tablero& t, int x, int tolerancia);
 
-/// Data rows that fit wholly below the header from TopRow on; at least 1.
+/// Data rows that fit wholly below the header from TopRow on; at least 1. Where the table ends before the
+/// window does, rows of the common height count for what is left.
 [[nodiscard]] int filas_visibles(const Tablero& t);
 /// The last row any part of which is seen.
 [[nodiscard]] int ultima_fila_visible(const Tablero& t);
@@ -46,7 +48,7 @@ struct Celda {
 [[nodiscard]] int ancho_total(const Tablero& t);
 
 /// Scrolls as little as needed for the cell to be seen whole; a cell larger than the window shows its
-/// top left corner. Row 0 and column 0 ask for no scrolling.
+/// top left corner. Row 0 and column 0 ask for no scrolling; a window without size shows nothing.
 void muestra_celda(Tablero& t, int fila, int col);
 
 } // namespace Qlt4_Tabla

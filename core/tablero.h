@@ -6,14 +6,18 @@
 // Rows and columns are 0-based; row 0 is the header, column 0 the row numbers; both are ordinary cells.
 // The selection is the rectangle between (Row, Col) and (RowSel, ColSel), inclusive, in either order.
 // Cells outside the grid: error 9. More than 2^28 cells, or no memory: error 7 before any change.
+// No notice is given where nothing changed. A row number that follows its row is told as a changed cell.
 // Geometry (places on the window) is in core/geometria.h, merging in core/fusion.h.
 #pragma once
 
 #include "base/imagen.h"
 #include "core/almacen_celdas.h"
+#include "core/avisos_unidos.h"
+#include "core/imagenes_celdas.h"
 #include "platform/vista_tablero.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <span>
 #include <string>
@@ -34,6 +38,9 @@ enum class ModoSeleccion { Libre, PorFilas };
 /// The largest number of cells of one grid.
 inline constexpr std::int64_t MAX_CELDAS = std::int64_t{1} << 28;
 
+/// Width of a new column, in twips.
+inline constexpr int ANCHO_INICIAL = 960;
+
 /// A rectangle of cells, corners inclusive, ascending.
 struct Bloque {
     int fila1 = 0;
@@ -45,6 +52,7 @@ struct Bloque {
 
 class Tablero {
 public:
+    /// No rows, no columns, current cell (0, 0).
     explicit Tablero(VistaTablero& vista);
 
     // Counts. Growing adds empty rows or columns at the end and never moves the current cell; shrinking
@@ -56,7 +64,8 @@ public:
     [[nodiscard]] int Cols() const { return almacen_.columnas(); }
 
     void Cols(int n);
-    /// Empty rows before `fila` (0..Rows). The current cell keeps its index.
+    /// Empty rows before `fila` (0..Rows). The current cell keeps its index. A negative count here or above:
+    /// error 5.
     void inserta_filas(int fila, int n);
     /// Removes rows; the current row keeps its index, clamped.
     void borra_filas(int fila, int n);
@@ -75,13 +84,13 @@ public:
         const std::function<bool(int, std::string_view, std::string&)>& cambia);
 
     // The current cell and the far corner. Row moves RowSel with it, Col moves ColSel.
-    [[nodiscard]] int Row() const { return fila_; }
+    [[nodiscard]] int Row() const { return cursor_.fila; }
 
-    [[nodiscard]] int Col() const { return col_; }
+    [[nodiscard]] int Col() const { return cursor_.col; }
 
-    [[nodiscard]] int RowSel() const { return fila_sel_; }
+    [[nodiscard]] int RowSel() const { return cursor_.fila_sel; }
 
-    [[nodiscard]] int ColSel() const { return col_sel_; }
+    [[nodiscard]] int ColSel() const { return cursor_.col_sel; }
 
     void Row(int fila);
     void Col(int col);
@@ -94,15 +103,15 @@ public:
 
     [[nodiscard]] ModoSeleccion modo_seleccion() const { return modo_; }
 
-    void modo_seleccion(ModoSeleccion modo);
+    void modo_seleccion(ModoSeleccion modo) { modo_ = modo; }
 
     /// The first data row shown; clamps to 1..Rows - 1 (1 on a header-only table).
-    [[nodiscard]] int TopRow() const { return fila_superior_; }
+    [[nodiscard]] int TopRow() const { return parte_.fila_superior; }
 
     void TopRow(int fila);
 
     /// Twips that the data columns are scrolled to the left; clamps to what the widths and the view allow.
-    [[nodiscard]] int desplazamiento() const { return desplazamiento_; }
+    [[nodiscard]] int desplazamiento() const { return parte_.desplazamiento; }
 
     void desplazamiento(int twips);
     /// The size of the window that shows the grid, header included; the front end tells it.
@@ -118,11 +127,12 @@ public:
     [[nodiscard]] int ancho_visible(int col) const;
     [[nodiscard]] AlineacionCelda ColAlignment(int col) const;
     void ColAlignment(int col, AlineacionCelda alineacion);
-    /// Height of a row in twips: its own, else the one of all rows.
+    /// Height of a row in twips: its own, else the one of all rows. A negative let takes its own away.
     [[nodiscard]] int RowHeight(int fila) const;
     void RowHeight(int fila, int twips);
 
-    /// Height of rows without one of their own (the front end sets it from its font; starts at 300).
+    /// Height of rows without one of their own (the front end sets it from its font; starts at 300; at
+    /// least 1).
     [[nodiscard]] int alto_normal() const { return alto_normal_; }
 
     void alto_normal(int twips);
@@ -139,11 +149,11 @@ public:
 
     // Colours, 0x00BBGGRR or a system colour. Background 0 of a cell never set is no colour; an explicit 0
     // is black.
-    [[nodiscard]] std::int32_t CellForeColor() const { return color_texto(fila_, col_); }
+    [[nodiscard]] std::int32_t CellForeColor() const { return color_texto(cursor_.fila, cursor_.col); }
 
     void CellForeColor(std::int32_t color);
 
-    [[nodiscard]] std::int32_t CellBackColor() const { return color_fondo(fila_, col_); }
+    [[nodiscard]] std::int32_t CellBackColor() const { return color_fondo(cursor_.fila, cursor_.col); }
 
     void CellBackColor(std::int32_t color);
 
@@ -171,28 +181,52 @@ public:
     void MergeCells(std::int16_t modo);
 
     /// While off no notice is given; switching on gives the joined ones. The switch does not count.
-    [[nodiscard]] bool Redraw() const { return redibuja_; }
+    [[nodiscard]] bool Redraw() const { return !avisos_.retenidos(); }
 
     void Redraw(bool si);
 
     [[nodiscard]] const AlmacenCeldas& almacen() const { return almacen_; }
 
 private:
-    void comprueba(int fila, int col) const;
-    void comprueba_tamano(std::int64_t filas, std::int64_t columnas) const;
+    struct Cursor {
+        int fila = 0, col = 0, fila_sel = 0, col_sel = 0;
+        friend constexpr bool operator==(const Cursor&, const Cursor&) = default;
+    };
 
-    // The rest is for whoever writes tablero.cpp.
-    VistaTablero* vista_;
+    // What of the grid the window shows.
+    struct Parte {
+        int fila_superior = 1, desplazamiento = 0;
+        friend constexpr bool operator==(const Parte&, const Parte&) = default;
+    };
+
+    struct Columna {
+        int ancho = ANCHO_INICIAL;
+        AlineacionCelda alineacion = AlineacionCelda::Izquierda;
+        bool funde = false;
+    };
+
+    void comprueba_fila(int fila) const;
+    void comprueba_columna(int col) const;
+    void comprueba(int fila, int col) const;
+    void comprueba(const Bloque& bloque) const;
+    void comprueba_tamano(std::int64_t filas, std::int64_t columnas) const;
+    void ajusta();
+    void avisa_cursor();
+    void avisa_parte();
+    void avisa(const Bloque& bloque);
+    [[nodiscard]] Bloque bloque_de_relleno() const;
+
+    AvisosUnidos avisos_;
     AlmacenCeldas almacen_;
-    int fila_ = 0, col_ = 0, fila_sel_ = 0, col_sel_ = 0;
-    int fila_superior_ = 1;
-    int desplazamiento_ = 0;
+    ImagenesCeldas imagenes_;
+    std::vector<Columna> columnas_;
+    Cursor cursor_, cursor_avisado_; // the second ones are what the view was told last
+    Parte parte_, parte_avisada_;
     int ancho_vista_ = 0, alto_vista_ = 0;
     int alto_normal_ = 300;
     ModoSeleccion modo_ = ModoSeleccion::Libre;
     Relleno relleno_ = Relleno::Celda;
     std::int16_t fusion_ = 0;
-    bool redibuja_ = true;
     std::string cadena_formato_;
 };
 

@@ -1,0 +1,425 @@
+// SPDX-License-Identifier: MIT
+// AlmacenCeldas: what the packed cells mean: long texts by their handles, row numbers by their place.
+#include "core/almacen_celdas.h"
+
+#include "core/indice_trozos.h"
+#include "core/textos_largos.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstring>
+#include <utility>
+
+namespace Qlt4_Tabla {
+
+namespace {
+
+using CifrasFila = std::array<char, 12>;
+
+// What a numbered row shows.
+std::string_view numero_de(int fila, CifrasFila& cifras) {
+    if (fila == 0) return {};
+    const auto r = std::to_chars(cifras.data(), cifras.data() + cifras.size(), fila);
+    return {cifras.data(), static_cast<std::size_t>(r.ptr - cifras.data())};
+}
+
+std::uint32_t asa_de(std::string_view bytes) {
+    std::uint32_t asa = 0;
+    std::memcpy(&asa, bytes.data(), BYTES_ASA);
+    return asa;
+}
+
+bool es_largo(std::string_view texto) { return texto.size() >= LARGO; }
+
+// The rows that may lack their numbers: from `desde` on, before `hasta`. All others are numbered, but for
+// row 0 with a text.
+struct SinNumero {
+    int desde = 0;
+    int hasta = 0;
+
+    void anade(int a, int b) {
+        const bool nada = desde == hasta;
+        desde = nada ? a : std::min(desde, a);
+        hasta = nada ? b : std::max(hasta, b);
+    }
+
+    void inserta(int fila, int n) {
+        if (desde >= fila) desde += n;
+        if (hasta > fila) hasta += n;
+        anade(fila, fila == 0 ? n + 1 : fila + n); // what was row 0 may be a data row now
+    }
+
+    void borra(std::span<const int> filas) {
+        const auto quitadas_antes = [filas](int fila) {
+            return static_cast<int>(std::lower_bound(filas.begin(), filas.end(), fila) - filas.begin());
+        };
+        desde -= quitadas_antes(desde);
+        hasta -= quitadas_antes(hasta);
+    }
+
+    void borra(int fila, int n) {
+        const auto queda = [fila, n](int f) { return f <= fila ? f : std::max(fila, f - n); };
+        desde = queda(desde);
+        hasta = queda(hasta);
+    }
+};
+
+} // namespace
+
+struct AlmacenCeldas::Interior {
+    IndiceTrozos indice;
+    TextosLargos largos;
+    int columnas = 0;
+    SinNumero sin_numero;
+    mutable CifrasFila cifras{}; // of the row number given last
+    enum class Altos { No, Si, Quiza };
+    mutable Altos altos = Altos::No; // any row with a height of its own?
+    std::vector<std::uint8_t> fila_nueva; // kept for its memory
+
+    [[nodiscard]] std::string_view texto(const CeldaGuardada& c, int fila, CifrasFila& cifras_fila) const {
+        if (c.contenido == Contenido::Texto) return c.bytes;
+        return c.contenido == Contenido::Numero ? numero_de(fila, cifras_fila)
+                                                : largos.texto(asa_de(c.bytes));
+    }
+
+    [[nodiscard]] CeldaGuardada celda(int fila, int col) const {
+        const LugarFila l = indice.busca(fila);
+        return l.trozo->celda(l.i, col);
+    }
+
+    bool escribe(int fila, int col, std::string_view texto);
+    void guarda(int fila, int col, std::string_view texto);
+    void pon(int fila, int col, const CeldaGuardada& celda) {
+        const LugarFila l = indice.para_escribir(fila, celda.bytes.size());
+        l.trozo->pon(l.i, col, celda);
+    }
+
+    bool escribe_fila(int fila, int col, std::span<const std::string_view> textos);
+    [[nodiscard]] std::span<const std::uint8_t> fila_con(
+        std::span<const std::uint8_t> vieja, int col, std::span<const std::string_view> textos);
+    bool numera(Trozo& t, int i, int fila);
+    void suelta_largos(int desde, int hasta, int col);
+    void suelta_en_fila(std::span<const std::uint8_t> fila, int col);
+    [[nodiscard]] std::optional<std::int32_t> adorno(Adorno tipo, int fila, int col) const;
+    bool pinta(Adorno tipo, int fila1, int col1, int fila2, int col2, std::optional<std::int32_t> valor);
+    void filas_quitadas() {
+        if (altos == Altos::Si) altos = Altos::Quiza;
+    }
+};
+
+AlmacenCeldas::AlmacenCeldas() : yo_(std::make_unique<Interior>()) {}
+
+AlmacenCeldas::~AlmacenCeldas() = default;
+
+int AlmacenCeldas::filas() const { return yo_->indice.filas(); }
+
+int AlmacenCeldas::columnas() const { return yo_->columnas; }
+
+void AlmacenCeldas::pon_filas(int n) {
+    const int hay = filas();
+    if (n > hay)
+        inserta(hay, n - hay);
+    else
+        borra(n, hay - n);
+}
+
+void AlmacenCeldas::pon_columnas(int n) {
+    if (n < yo_->columnas) {
+        yo_->suelta_largos(0, filas() - 1, n);
+        yo_->indice.recorre(0, filas() - 1, [n](Trozo& t, int, int, int) { t.quita_columnas(n); });
+        if (n == 0) yo_->sin_numero = {0, filas()};
+    }
+    yo_->columnas = n;
+}
+
+// Reading
+
+std::string_view AlmacenCeldas::texto(int fila, int col) const {
+    return yo_->texto(yo_->celda(fila, col), fila, yo_->cifras);
+}
+
+void AlmacenCeldas::lee_fila(int fila, int col, std::span<std::string_view> textos) const {
+    const LugarFila l = yo_->indice.busca(fila);
+    for (std::string_view& t : textos) t = yo_->texto(l.trozo->celda(l.i, col++), fila, yo_->cifras);
+}
+
+bool AlmacenCeldas::iguales(int fila1, int col1, int fila2, int col2) const {
+    CifrasFila cifras1;
+    CifrasFila cifras2;
+    return yo_->texto(yo_->celda(fila1, col1), fila1, cifras1) ==
+        yo_->texto(yo_->celda(fila2, col2), fila2, cifras2);
+}
+
+// Writing
+
+bool AlmacenCeldas::pon_texto(int fila, int col, std::string_view texto) {
+    return yo_->escribe(fila, col, texto);
+}
+
+bool AlmacenCeldas::Interior::escribe(int fila, int col, std::string_view nuevo) {
+    CifrasFila cifras_fila;
+    const CeldaGuardada vieja = celda(fila, col);
+    const bool igual = texto(vieja, fila, cifras_fila) == nuevo;
+    if (col != 0) {
+        if (!igual) guarda(fila, col, nuevo);
+        return !igual;
+    }
+    const bool numero = fila > 0 && nuevo == numero_de(fila, cifras_fila);
+    if (igual && (!numero || vieja.contenido == Contenido::Numero)) return false;
+    const bool largo = vieja.contenido == Contenido::Largo;
+    if (!numero) {
+        guarda(fila, 0, nuevo);
+        sin_numero.anade(fila, fila + 1);
+    } else {
+        const std::uint32_t asa = largo ? asa_de(vieja.bytes) : 0;
+        pon(fila, 0, {{}, Contenido::Numero});
+        if (largo) largos.suelta(asa);
+    }
+    return !igual;
+}
+
+// Stores a text as such. It may be a view of the chunk that is written.
+void AlmacenCeldas::Interior::guarda(int fila, int col, std::string_view nuevo) {
+    const LugarFila l = indice.busca(fila);
+    const CeldaGuardada vieja = l.trozo->celda(l.i, col);
+    const bool era_largo = vieja.contenido == Contenido::Largo;
+    const std::uint32_t asa_vieja = era_largo ? asa_de(vieja.bytes) : 0;
+    if (es_largo(nuevo)) {
+        const std::uint32_t asa = largos.guarda(nuevo);
+        std::array<char, BYTES_ASA> bytes{};
+        std::memcpy(bytes.data(), &asa, BYTES_ASA);
+        try {
+            pon(fila, col, {{bytes.data(), bytes.size()}, Contenido::Largo});
+        } catch (...) {
+            largos.suelta(asa);
+            throw;
+        }
+    } else if (l.trozo->contiene(nuevo)) {
+        const std::string copia(nuevo);
+        pon(fila, col, {copia});
+    } else {
+        pon(fila, col, {nuevo});
+    }
+    if (era_largo) largos.suelta(asa_vieja);
+}
+
+bool AlmacenCeldas::pon_fila(int fila, int col, std::span<const std::string_view> textos) {
+    if (textos.empty()) return false;
+    if (col != 0) return yo_->escribe_fila(fila, col, textos);
+    const std::string primero(textos.front()); // writing the others may move it
+    const bool cambia = yo_->escribe_fila(fila, 1, textos.subspan(1));
+    return yo_->escribe(fila, 0, primero) || cambia;
+}
+
+// Cells from column 1 on. Short texts go in with the whole row; else cell by cell.
+bool AlmacenCeldas::Interior::escribe_fila(int fila, int col, std::span<const std::string_view> textos) {
+    if (textos.empty()) return false;
+    const LugarFila l = indice.busca(fila);
+    const std::array<std::uint8_t, 1 + RELLENO> sin_textos{
+        l.trozo->numeradas() ? std::uint8_t{1} : std::uint8_t{0}};
+    const auto vieja = l.trozo->sin_textos() ? std::span(sin_textos).first(1) : l.trozo->fila(l.i);
+    if (lee_cabecera(vieja.data()).largos || std::any_of(textos.begin(), textos.end(), es_largo)) {
+        const std::vector<std::string> copias(textos.begin(), textos.end());
+        bool cambia = false;
+        for (const std::string& t : copias) cambia = escribe(fila, col++, t) || cambia;
+        return cambia;
+    }
+    const auto nueva = fila_con(vieja, col, textos);
+    if (std::equal(nueva.begin(), nueva.end(), vieja.begin(), vieja.end())) return false;
+    const LugarFila d = indice.para_escribir(fila, nueva.size());
+    d.trozo->pon_fila(d.i, nueva);
+    return true;
+}
+
+// The bytes of a row without long texts, with other texts from column `col` on.
+std::span<const std::uint8_t> AlmacenCeldas::Interior::fila_con(
+    std::span<const std::uint8_t> vieja, int col, std::span<const std::string_view> textos) {
+    constexpr std::size_t CABECERA = 5; // room for the longest one; it ends where the lengths begin
+    CabeceraFila c = lee_cabecera(vieja.data());
+    const auto col1 = static_cast<std::size_t>(col);
+    const std::size_t col2 = col1 + textos.size();
+    const std::uint8_t* const longitudes = vieja.data() + c.bytes;
+    const std::uint8_t* const viejos = longitudes + c.columnas;
+    const std::size_t tenia = c.columnas;
+    const std::size_t antes = std::min(col1, tenia);
+    const std::size_t despues = std::min(col2, tenia);
+    const auto bytes_hasta = [&](std::size_t n) {
+        return suma_sencilla(longitudes, static_cast<std::uint32_t>(n));
+    };
+
+    std::size_t n = std::max(col2, tenia);
+    std::size_t bytes = CABECERA + n + bytes_hasta(c.columnas);
+    for (const std::string_view t : textos) bytes += t.size();
+    fila_nueva.assign(bytes, 0);
+    std::uint8_t* const nuevas = fila_nueva.data() + CABECERA;
+    std::copy_n(longitudes, antes, nuevas);
+    std::transform(textos.begin(), textos.end(), nuevas + col1,
+        [](std::string_view t) { return static_cast<std::uint8_t>(t.size()); });
+    std::copy(longitudes + despues, longitudes + tenia, nuevas + col2);
+    while (n != 0 && nuevas[n - 1] == 0) --n;
+
+    std::uint8_t* p = std::copy_n(viejos, bytes_hasta(antes), nuevas + n);
+    for (const std::string_view t : textos) p = std::copy(t.begin(), t.end(), p);
+    p = std::copy(viejos + bytes_hasta(despues), viejos + bytes_hasta(tenia), p);
+    c.columnas = static_cast<std::uint32_t>(n);
+    std::uint8_t* const cabecera = nuevas - bytes_cabecera(c.columnas);
+    escribe_cabecera(cabecera, c);
+    return {cabecera, p};
+}
+
+FilasCambiadas AlmacenCeldas::transforma(
+    int col, int desde, int hasta, const std::function<bool(int, std::string_view, std::string&)>& cambia) {
+    FilasCambiadas cambiadas;
+    std::string nuevo;
+    for (int fila = desde; fila <= hasta; ++fila) {
+        nuevo.clear();
+        if (cambia(fila, texto(fila, col), nuevo) && yo_->escribe(fila, col, nuevo))
+            cambiadas.extiende(fila, fila);
+    }
+    return cambiadas;
+}
+
+// Rows
+
+void AlmacenCeldas::inserta(int fila, int n) {
+    if (n <= 0) return;
+    yo_->indice.inserta(fila, n);
+    yo_->sin_numero.inserta(fila, n);
+}
+
+void AlmacenCeldas::borra(int fila, int n) {
+    if (n <= 0) return;
+    yo_->suelta_largos(fila, fila + n - 1, 0);
+    yo_->indice.borra(fila, n);
+    yo_->sin_numero.borra(fila, n);
+    yo_->filas_quitadas();
+}
+
+void AlmacenCeldas::borra_varias(std::span<const int> filas) {
+    if (yo_->largos.vivos() != 0)
+        for (const int fila : filas) yo_->suelta_largos(fila, fila, 0);
+    yo_->indice.borra_varias(filas);
+    yo_->sin_numero.borra(filas);
+    yo_->filas_quitadas();
+}
+
+// Gives back the long texts of these rows from column `col` on.
+void AlmacenCeldas::Interior::suelta_largos(int desde, int hasta, int col) {
+    if (largos.vivos() == 0) return;
+    indice.recorre(desde, hasta, [this, col](const Trozo& t, int i1, int i2, int) {
+        for (int i = i1; i <= i2 && !t.sin_textos(); ++i) suelta_en_fila(t.fila(i), col);
+    });
+}
+
+void AlmacenCeldas::Interior::suelta_en_fila(std::span<const std::uint8_t> fila, int col) {
+    const CabeceraFila c = lee_cabecera(fila.data());
+    if (!c.largos) return;
+    const std::uint8_t* const longitudes = fila.data() + c.bytes;
+    const char* texto = reinterpret_cast<const char*>(longitudes + c.columnas);
+    for (std::uint32_t k = 0; k < c.columnas; ++k) {
+        if (longitudes[k] == LARGO && k >= static_cast<std::uint32_t>(col))
+            largos.suelta(asa_de({texto, BYTES_ASA}));
+        texto += bytes_guardados(longitudes[k]);
+    }
+}
+
+FilasCambiadas AlmacenCeldas::numera() {
+    Interior& yo = *yo_;
+    FilasCambiadas cambiadas;
+    const int desde = yo.sin_numero.desde;
+    const int hasta = yo.sin_numero.hasta - 1;
+    if (desde > hasta || yo.columnas == 0) return cambiadas;
+    yo.indice.recorre(desde, hasta, [&](Trozo& t, int i1, int i2, int primera) {
+        if (t.sin_textos()) {
+            const int desde_fila = std::max(primera, 1);
+            if (!t.numeradas() && primera + t.filas() > desde_fila)
+                cambiadas.extiende(desde_fila, primera + t.filas() - 1);
+            return t.numera_todas();
+        }
+        for (int i = i1; i <= i2; ++i)
+            if (yo.numera(t, i, primera + i)) cambiadas.extiende(primera + i, primera + i);
+    });
+    yo.indice.junta_vacios(desde, hasta);
+    yo.sin_numero = {};
+    return cambiadas;
+}
+
+// A packed row takes its number; row 0 only where it has no text, to show it if it ever moves down. True
+// when it shows another text now.
+bool AlmacenCeldas::Interior::numera(Trozo& t, int i, int fila) {
+    const CeldaGuardada vieja = t.celda(i, 0);
+    if (fila == 0 && !vieja.bytes.empty()) return false;
+    if (vieja.contenido == Contenido::Largo) largos.suelta(asa_de(vieja.bytes));
+    return t.numera(i) && fila != 0;
+}
+
+// Colours and heights
+
+std::optional<std::int32_t> AlmacenCeldas::Interior::adorno(Adorno tipo, int fila, int col) const {
+    const LugarFila l = indice.busca(fila);
+    const Adornos* const a = l.trozo->adornos();
+    return a ? a->valor(tipo, col, l.i) : std::nullopt;
+}
+
+bool AlmacenCeldas::Interior::pinta(
+    Adorno tipo, int fila1, int col1, int fila2, int col2, std::optional<std::int32_t> valor) {
+    if (valor) indice.reparte(fila1, fila2);
+    bool cambia = false;
+    indice.recorre(fila1, fila2, [&](Trozo& t, int i1, int i2, int) {
+        for (int col = col1; col <= col2; ++col) cambia = t.pon_adorno(tipo, col, i1, i2, valor) || cambia;
+    });
+    return cambia;
+}
+
+std::int32_t AlmacenCeldas::color_texto(int fila, int col) const {
+    return yo_->adorno(Adorno::ColorTexto, fila, col).value_or(0);
+}
+
+bool AlmacenCeldas::pon_color_texto(int fila1, int col1, int fila2, int col2, std::int32_t color) {
+    const auto valor = color == 0 ? std::nullopt : std::optional(color);
+    return yo_->pinta(Adorno::ColorTexto, fila1, col1, fila2, col2, valor);
+}
+
+std::int32_t AlmacenCeldas::color_fondo(int fila, int col) const {
+    return yo_->adorno(Adorno::ColorFondo, fila, col).value_or(0);
+}
+
+bool AlmacenCeldas::tiene_fondo(int fila, int col) const {
+    return yo_->adorno(Adorno::ColorFondo, fila, col).has_value();
+}
+
+bool AlmacenCeldas::pon_color_fondo(int fila1, int col1, int fila2, int col2, std::int32_t color) {
+    return yo_->pinta(Adorno::ColorFondo, fila1, col1, fila2, col2, color);
+}
+
+int AlmacenCeldas::alto(int fila) const {
+    return yo_->altos == Interior::Altos::No ? -1 : yo_->adorno(Adorno::Alto, fila, 0).value_or(-1);
+}
+
+bool AlmacenCeldas::pon_alto(int fila, int twips) {
+    const auto valor = twips < 0 ? std::nullopt : std::optional(twips);
+    const bool cambia = yo_->pinta(Adorno::Alto, fila, 0, fila, 0, valor);
+    if (valor)
+        yo_->altos = Interior::Altos::Si;
+    else
+        yo_->filas_quitadas();
+    return cambia;
+}
+
+bool AlmacenCeldas::hay_altos() const {
+    using Altos = Interior::Altos;
+    if (yo_->altos == Altos::Quiza) {
+        yo_->altos = Altos::No;
+        yo_->indice.recorre(0, filas() - 1, [this](const Trozo& t, int, int, int) {
+            if (t.adornos() && t.adornos()->tiene(Adorno::Alto)) yo_->altos = Altos::Si;
+        });
+    }
+    return yo_->altos == Altos::Si;
+}
+
+std::size_t AlmacenCeldas::bytes() const {
+    return sizeof(Interior) + yo_->indice.bytes() + yo_->largos.bytes() + yo_->fila_nueva.capacity();
+}
+
+} // namespace Qlt4_Tabla

@@ -1,0 +1,335 @@
+// SPDX-License-Identifier: MIT
+// Trozo: rows behind the gap stand at the end of the run, so that growing it moves them with its end.
+#include "core/trozo.h"
+
+#include <algorithm>
+#include <cstring>
+#include <functional>
+#include <new>
+
+namespace Qlt4_Tabla {
+
+namespace {
+
+// Runs grow by whole blocks. The block, with what the allocator and the filling add, fits its sizes.
+constexpr std::uint32_t BLOQUE = 1024;
+constexpr std::uint32_t MARGEN = 16 + RELLENO;
+constexpr std::uint32_t CABIDA_MAXIMA = 0x7FFFFFFF;
+
+constexpr std::uint32_t redondea(std::uint32_t bytes) {
+    return (bytes + MARGEN + BLOQUE - 1) / BLOQUE * BLOQUE - MARGEN;
+}
+
+std::string_view como_texto(const std::uint8_t* p, std::size_t n) {
+    return {reinterpret_cast<const char*>(p), n};
+}
+
+} // namespace
+
+bool Trozo::contiene(std::string_view texto) const {
+    const std::string_view todo = como_texto(datos_.get(), datos_ ? cabida_ : 0);
+    const std::less<> antes;
+    return !antes(texto.data(), todo.data()) && antes(texto.data(), todo.data() + todo.size());
+}
+
+std::uint32_t Trozo::fin(int i) const {
+    if (i + 1 == corte_) return hueco_ini_;
+    return i + 1 == filas_ ? cabida_ : inicio(i + 1);
+}
+
+// Room
+
+void Trozo::pon_cabida(std::uint32_t cabida) {
+    const std::uint32_t cola = cabida_ - hueco_fin_;
+    if (cabida < cabida_ && cola != 0)
+        std::memmove(datos_.get() + cabida - cola, datos_.get() + hueco_fin_, cola);
+    void* const p = std::realloc(datos_.get(), cabida + RELLENO);
+    if (!p && cabida > cabida_) throw std::bad_alloc();
+    if (p) {
+        static_cast<void>(datos_.release());
+        datos_.reset(static_cast<std::uint8_t*>(p));
+    }
+    if (cabida > cabida_ && cola != 0)
+        std::memmove(datos_.get() + cabida - cola, datos_.get() + hueco_fin_, cola);
+    for (int i = corte_; i < filas_; ++i) inicio(i) += cabida - cabida_;
+    hueco_fin_ = cabida - cola;
+    cabida_ = cabida;
+}
+
+void Trozo::asegura(std::uint32_t mas) {
+    if (mas <= hueco()) return;
+    if (mas > CABIDA_MAXIMA - MARGEN - BLOQUE - usados()) throw std::bad_alloc();
+    pon_cabida(redondea(usados() + mas));
+}
+
+// Gives memory back when far more is free than used.
+void Trozo::encoge() {
+    if (hueco() > usados() + 4 * BLOQUE) pon_cabida(redondea(usados() + BLOQUE / 2));
+}
+
+// The gap comes to stand before row `i`.
+void Trozo::mueve_hueco(int i) {
+    const std::uint32_t ancho = hueco();
+    std::uint8_t* const p = datos_.get();
+    if (i > corte_) {
+        const std::uint32_t hasta = i == filas_ ? cabida_ : inicio(i);
+        std::memmove(p + hueco_ini_, p + hueco_fin_, hasta - hueco_fin_);
+        for (int j = corte_; j < i; ++j) inicio(j) -= ancho;
+        hueco_ini_ += hasta - hueco_fin_;
+        hueco_fin_ = hasta;
+    } else if (i < corte_) {
+        const std::uint32_t desde = inicio(i);
+        hueco_fin_ -= hueco_ini_ - desde;
+        std::memmove(p + hueco_fin_, p + desde, hueco_ini_ - desde);
+        for (int j = i; j < corte_; ++j) inicio(j) += ancho;
+        hueco_ini_ = desde;
+    }
+    corte_ = i;
+}
+
+void Trozo::empaqueta() {
+    const auto n = static_cast<std::uint32_t>(filas_);
+    corte_ = 0; // no row counts as placed while the run is made
+    pon_cabida(redondea(n));
+    for (std::uint32_t i = 0; i < n; ++i) inicio_[i] = i;
+    std::memset(datos_.get(), numeradas_ ? 1 : 0, n);
+    corte_ = filas_;
+    hueco_ini_ = n;
+    hueco_fin_ = cabida_;
+}
+
+// Cells
+
+void Trozo::pon(int i, int col, const CeldaGuardada& celda) {
+    const auto columna = static_cast<std::uint32_t>(col);
+    const auto bytes = static_cast<std::uint32_t>(celda.bytes.size());
+    const auto longitud = celda.contenido == Contenido::Largo ? LARGO : static_cast<std::uint8_t>(bytes);
+    const CabeceraFila c = lee_cabecera(datos_.get() + inicio(i));
+    if (columna < c.columnas) {
+        if (bytes == 0 && columna + 1 == c.columnas)
+            acorta(i, columna);
+        else
+            sustituye(i, columna, celda.bytes, longitud);
+    } else if (bytes != 0) {
+        alarga(i, columna, celda.bytes, longitud);
+    }
+    std::uint8_t& banderas = datos_.get()[inicio(i)];
+    if (col == 0)
+        banderas = static_cast<std::uint8_t>((banderas & ~1U) | (celda.contenido == Contenido::Numero));
+    if (longitud == LARGO)
+        banderas |= 2U;
+    else if (c.largos)
+        revisa_largos(i);
+}
+
+void Trozo::sustituye(int i, std::uint32_t col, std::string_view bytes, std::uint8_t longitud) {
+    const auto nuevos = static_cast<std::uint32_t>(bytes.size());
+    const std::uint8_t* const fila = datos_.get() + inicio(i);
+    const CabeceraFila c = lee_cabecera(fila);
+    const std::uint32_t viejos = bytes_guardados(fila[c.bytes + col]);
+    if (nuevos != viejos) {
+        if (nuevos > viejos) asegura(nuevos - viejos);
+        mueve_hueco(i + 1);
+    }
+    std::uint8_t* const longitudes = datos_.get() + inicio(i) + c.bytes;
+    std::uint8_t* const texto = longitudes + c.columnas + suma_bytes(longitudes, col, c.largos);
+    if (nuevos != viejos) {
+        const std::uint8_t* const detras = texto + viejos;
+        std::memmove(texto + nuevos, detras, static_cast<std::size_t>(datos_.get() + hueco_ini_ - detras));
+        hueco_ini_ += nuevos - viejos;
+    }
+    if (nuevos != 0) std::memcpy(texto, bytes.data(), nuevos);
+    longitudes[col] = longitud;
+    if (nuevos < viejos) encoge();
+}
+
+// The row comes to store columns up to `col`; its text is the last one.
+void Trozo::alarga(int i, std::uint32_t col, std::string_view bytes, std::uint8_t longitud) {
+    const auto nuevos = static_cast<std::uint32_t>(bytes.size());
+    CabeceraFila c = lee_cabecera(datos_.get() + inicio(i));
+    const std::uint32_t mas = col + 1 - c.columnas + bytes_cabecera(col + 1) - c.bytes;
+    asegura(mas + nuevos);
+    mueve_hueco(i + 1);
+    std::uint8_t* const fila = datos_.get() + inicio(i);
+    std::uint8_t* const textos = fila + c.bytes + c.columnas;
+    const auto bytes_textos = static_cast<std::size_t>(datos_.get() + hueco_ini_ - textos);
+    std::memmove(textos + mas, textos, bytes_textos);
+    if (bytes_cabecera(col + 1) != c.bytes)
+        std::memmove(fila + bytes_cabecera(col + 1), fila + c.bytes, c.columnas);
+    const std::uint32_t tenia = c.columnas;
+    c.columnas = col + 1;
+    std::uint8_t* const longitudes = fila + escribe_cabecera(fila, c);
+    std::memset(longitudes + tenia, 0, col - tenia);
+    longitudes[col] = longitud;
+    std::memcpy(textos + mas + bytes_textos, bytes.data(), nuevos);
+    hueco_ini_ += mas + nuevos;
+}
+
+// The row comes to store `columnas` columns at most, fewer where the last of them are empty.
+void Trozo::acorta(int i, std::uint32_t columnas) {
+    mueve_hueco(i + 1);
+    std::uint8_t* const fila = datos_.get() + inicio(i);
+    CabeceraFila c = lee_cabecera(fila);
+    std::uint8_t* const longitudes = fila + c.bytes;
+    while (columnas != 0 && longitudes[columnas - 1] == 0) --columnas;
+    const std::uint32_t bytes_textos = suma_bytes(longitudes, columnas, c.largos);
+    const std::uint8_t* const textos = longitudes + c.columnas;
+    c.columnas = columnas;
+    std::memmove(fila + bytes_cabecera(columnas), longitudes, columnas);
+    std::uint8_t* const destino = fila + escribe_cabecera(fila, c) + columnas;
+    std::memmove(destino, textos, bytes_textos);
+    hueco_ini_ = static_cast<std::uint32_t>(destino + bytes_textos - datos_.get());
+    encoge();
+}
+
+// The flag of long texts after one was taken away.
+void Trozo::revisa_largos(int i) {
+    std::uint8_t* const fila = datos_.get() + inicio(i);
+    CabeceraFila c = lee_cabecera(fila);
+    const std::uint8_t* const longitudes = fila + c.bytes;
+    c.largos = std::find(longitudes, longitudes + c.columnas, LARGO) != longitudes + c.columnas;
+    escribe_cabecera(fila, c);
+}
+
+void Trozo::pon_fila(int i, std::span<const std::uint8_t> fila) {
+    const auto nuevos = static_cast<std::uint32_t>(fila.size());
+    const std::uint32_t viejos = fin(i) - inicio(i);
+    if (nuevos > viejos) asegura(nuevos - viejos);
+    mueve_hueco(i + 1);
+    std::memcpy(datos_.get() + inicio(i), fila.data(), nuevos);
+    hueco_ini_ = inicio(i) + nuevos;
+    if (nuevos < viejos) encoge();
+}
+
+std::span<const std::uint8_t> Trozo::fila(int i) const {
+    return {datos_.get() + inicio(i), fin(i) - inicio(i)};
+}
+
+bool Trozo::numera(int i) {
+    const CabeceraFila c = lee_cabecera(datos_.get() + inicio(i));
+    if (c.numerada) return false;
+    pon(i, 0, {{}, Contenido::Numero});
+    return true;
+}
+
+// Rows
+
+void Trozo::inserta(int i, int n) {
+    if (datos_) {
+        asegura(static_cast<std::uint32_t>(n));
+        mueve_hueco(i);
+        std::memmove(&inicio_[static_cast<std::size_t>(i + n)], &inicio_[static_cast<std::size_t>(i)],
+            static_cast<std::size_t>(filas_ - i) * sizeof inicio_[0]);
+        std::memset(datos_.get() + hueco_ini_, 0, static_cast<std::size_t>(n));
+        for (int j = i; j < i + n; ++j) inicio(j) = hueco_ini_++;
+        corte_ = i + n;
+    }
+    filas_ += n;
+    if (adornos_) adornos_->inserta(i, n);
+}
+
+void Trozo::borra(int i, int n) {
+    if (datos_) {
+        mueve_hueco(i);
+        hueco_fin_ = i + n == filas_ ? cabida_ : inicio(i + n);
+        std::memmove(&inicio_[static_cast<std::size_t>(i)], &inicio_[static_cast<std::size_t>(i + n)],
+            static_cast<std::size_t>(filas_ - i - n) * sizeof inicio_[0]);
+    }
+    filas_ -= n;
+    if (datos_) encoge();
+    if (adornos_) {
+        adornos_->borra(i, n);
+        quita_adornos_vacios();
+    }
+}
+
+void Trozo::quita_columnas(int n) {
+    if (n == 0) numeradas_ = false;
+    const auto columnas = static_cast<std::uint32_t>(n);
+    for (int i = 0; datos_ && i < filas_; ++i) {
+        const CabeceraFila c = lee_cabecera(datos_.get() + inicio(i));
+        if (c.columnas > columnas) {
+            acorta(i, columnas);
+            if (c.largos) revisa_largos(i);
+        }
+        if (n == 0) datos_.get()[inicio(i)] = 0;
+    }
+    if (adornos_) {
+        adornos_->quita_columnas(n);
+        quita_adornos_vacios();
+    }
+}
+
+std::unique_ptr<Trozo> Trozo::separa(int i) {
+    auto nuevo = std::make_unique<Trozo>(filas_ - i, numeradas_);
+    if (adornos_) nuevo->adornos_ = std::make_unique<Adornos>(*adornos_);
+    if (datos_) {
+        mueve_hueco(i);
+        const std::uint32_t bytes = cabida_ - hueco_fin_;
+        const int filas = nuevo->filas_;
+        nuevo->filas_ = 0; // no row to move while the run is made
+        nuevo->pon_cabida(redondea(bytes));
+        nuevo->filas_ = filas;
+        std::memcpy(nuevo->datos_.get(), datos_.get() + hueco_fin_, bytes);
+        for (int j = 0; j < filas; ++j) nuevo->inicio(j) = inicio(i + j) - hueco_fin_;
+        nuevo->corte_ = filas;
+        nuevo->hueco_ini_ = bytes;
+        hueco_fin_ = cabida_;
+    }
+    if (adornos_) {
+        adornos_->borra(i, filas_ - i);
+        nuevo->adornos_->borra(0, i);
+        quita_adornos_vacios();
+        nuevo->quita_adornos_vacios();
+    }
+    filas_ = i;
+    if (datos_) encoge();
+    return nuevo;
+}
+
+void Trozo::absorbe(const Trozo& otro) {
+    const bool iguales = sin_textos() && otro.sin_textos() && numeradas_ == otro.numeradas_;
+    if (!iguales && sin_textos()) empaqueta();
+    if (!iguales) asegura(otro.datos_ ? otro.usados() : static_cast<std::uint32_t>(otro.filas_));
+    if (otro.adornos_ && !adornos_) adornos_ = std::make_unique<Adornos>();
+    if (otro.adornos_) adornos_->absorbe(*otro.adornos_, filas_);
+    if (!iguales) anexa_filas(otro);
+    filas_ += otro.filas_;
+}
+
+// Copies packed rows behind the own ones; the room is there.
+void Trozo::anexa_filas(const Trozo& otro) {
+    mueve_hueco(filas_);
+    if (otro.sin_textos())
+        std::memset(
+            datos_.get() + hueco_ini_, otro.numeradas_ ? 1 : 0, static_cast<std::size_t>(otro.filas_));
+    for (int j = 0; j < otro.filas_; ++j) {
+        inicio(filas_ + j) = hueco_ini_;
+        const auto fila = otro.sin_textos() ? std::span<const std::uint8_t>() : otro.fila(j);
+        if (!fila.empty()) std::memcpy(datos_.get() + hueco_ini_, fila.data(), fila.size());
+        hueco_ini_ += otro.sin_textos() ? 1U : static_cast<std::uint32_t>(fila.size());
+    }
+    corte_ = filas_ + otro.filas_;
+}
+
+// The rest
+
+bool Trozo::pon_adorno(Adorno tipo, int col, int i1, int i2, std::optional<std::int32_t> valor) {
+    if (!adornos_) {
+        if (!valor) return false;
+        adornos_ = std::make_unique<Adornos>();
+    }
+    const bool cambia = adornos_->pon(tipo, col, i1, i2, valor);
+    quita_adornos_vacios();
+    return cambia;
+}
+
+void Trozo::quita_adornos_vacios() {
+    if (adornos_ && adornos_->vacio()) adornos_.reset();
+}
+
+std::size_t Trozo::bytes() const {
+    return sizeof(Trozo) + (datos_ ? cabida_ + RELLENO : 0) + (adornos_ ? adornos_->bytes() : 0);
+}
+
+} // namespace Qlt4_Tabla

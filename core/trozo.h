@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: MIT
+// Trozo: some neighbouring rows of the store. Without content it stands for any number of empty rows and
+// holds nothing; with texts, colours or heights it has at most FILAS_POR_TROZO rows, packed as runs of
+// bytes (core/fila_empaquetada.h). Rows are counted from the chunk's first.
+//
+// The free bytes of the run stand as one gap behind the row that was written last, so that writing row
+// after row, in either direction, moves only a row's bytes. The run grows in blocks, never by doubling.
+// A text that stands apart (core/textos_largos.h) is only a handle here: who writes or removes rows
+// gives the handle back. Chunks in a row: core/indice_trozos.h.
+#pragma once
+
+#include "core/adornos.h"
+#include "core/fila_empaquetada.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string_view>
+
+namespace Qlt4_Tabla {
+
+/// What a cell holds.
+enum class Contenido {
+    Texto, ///< the bytes are its text
+    Largo, ///< the bytes are the handle of a text that stands apart
+    Numero, ///< column 0 only: the row's own number, without bytes
+};
+
+struct CeldaGuardada {
+    std::string_view bytes;
+    Contenido contenido = Contenido::Texto;
+};
+
+class Trozo {
+public:
+    /// A chunk of several rows does not grow beyond these bytes: moving them must stay cheap.
+    static constexpr std::uint32_t BYTES_BUENOS = 32768;
+
+    /// `filas` empty rows; `numeradas`: column 0 shows their numbers.
+    Trozo(int filas, bool numeradas) : filas_(filas), numeradas_(numeradas) {}
+
+    [[nodiscard]] int filas() const { return filas_; }
+
+    /// No packed rows: every text is empty, and all rows or none are numbered.
+    [[nodiscard]] bool sin_textos() const { return !datos_; }
+
+    /// Nothing at all is stored: the number of rows is free.
+    [[nodiscard]] bool vacio() const { return !datos_ && !adornos_; }
+
+    [[nodiscard]] bool numeradas() const { return numeradas_; }
+
+    /// Bytes of the packed rows, without the gap.
+    [[nodiscard]] std::uint32_t usados() const { return cabida_ - hueco(); }
+
+    /// The bytes stay in place until the chunk changes.
+    [[nodiscard]] CeldaGuardada celda(int i, int col) const;
+    /// Does the text lie inside the packed rows?
+    [[nodiscard]] bool contiene(std::string_view texto) const;
+
+    // Writing. Without memory: std::bad_alloc, unchanged.
+
+    /// Packs the rows of a chunk without texts (at most FILAS_POR_TROZO of them).
+    void empaqueta();
+    /// Sets a cell of a packed chunk; `celda.bytes` lies outside of it. Column beyond the stored ones: the
+    /// row grows up to it.
+    void pon(int i, int col, const CeldaGuardada& celda);
+    /// Replaces a whole packed row by its bytes.
+    void pon_fila(int i, std::span<const std::uint8_t> fila);
+    /// The bytes of a packed row.
+    [[nodiscard]] std::span<const std::uint8_t> fila(int i) const;
+    /// Column 0 of row `i` takes the row's number. Packed chunks only. True when it had another text.
+    bool numera(int i);
+    /// The same for all rows of a chunk without texts.
+    void numera_todas() { numeradas_ = true; }
+
+    /// `n` empty, unnumbered rows before row `i`. Unless the chunk is empty and unnumbered (then any
+    /// number), it is packed and has room for them.
+    void inserta(int i, int n);
+    void borra(int i, int n);
+    /// Columns from `n` on are gone; with 0 no row is numbered.
+    void quita_columnas(int n);
+    /// Rows `i` and on (not all) leave to a new chunk.
+    [[nodiscard]] std::unique_ptr<Trozo> separa(int i);
+    /// The rows of `otro` come behind; together at most FILAS_POR_TROZO, or both are empty and alike.
+    void absorbe(const Trozo& otro);
+
+    [[nodiscard]] const Adornos* adornos() const { return adornos_.get(); }
+
+    /// As Adornos::pon; the chunk has at most FILAS_POR_TROZO rows.
+    bool pon_adorno(Adorno tipo, int col, int i1, int i2, std::optional<std::int32_t> valor);
+
+    [[nodiscard]] std::size_t bytes() const;
+
+private:
+    struct Libera {
+        void operator()(std::uint8_t* p) const { std::free(p); }
+    };
+
+    [[nodiscard]] std::uint32_t hueco() const { return hueco_fin_ - hueco_ini_; }
+
+    [[nodiscard]] std::uint32_t& inicio(int i) { return inicio_[static_cast<std::size_t>(i)]; }
+
+    [[nodiscard]] std::uint32_t inicio(int i) const { return inicio_[static_cast<std::size_t>(i)]; }
+
+    [[nodiscard]] std::uint32_t fin(int i) const;
+    void pon_cabida(std::uint32_t cabida);
+    void asegura(std::uint32_t mas);
+    void encoge();
+    void mueve_hueco(int i);
+    void sustituye(int i, std::uint32_t col, std::string_view bytes, std::uint8_t longitud);
+    void alarga(int i, std::uint32_t col, std::string_view bytes, std::uint8_t longitud);
+    void acorta(int i, std::uint32_t columnas);
+    void revisa_largos(int i);
+    void anexa_filas(const Trozo& otro);
+    void quita_adornos_vacios();
+
+    std::unique_ptr<std::uint8_t, Libera> datos_; // cabida_ bytes and RELLENO more
+    std::unique_ptr<Adornos> adornos_;
+    std::uint32_t cabida_ = 0;
+    std::uint32_t hueco_ini_ = 0; // the gap; it begins where row corte_ - 1 ends
+    std::uint32_t hueco_fin_ = 0;
+    int corte_ = 0; // rows before this one stand before the gap
+    int filas_;
+    bool numeradas_; // of a chunk without texts
+    std::array<std::uint32_t, FILAS_POR_TROZO> inicio_; // where the rows begin; not set without texts
+};
+
+inline CeldaGuardada Trozo::celda(int i, int col) const {
+    if (!datos_) return {{}, numeradas_ && col == 0 ? Contenido::Numero : Contenido::Texto};
+    const std::uint8_t* const p = datos_.get() + inicio(i);
+    const CabeceraFila c = lee_cabecera(p);
+    if (c.numerada && col == 0) return {{}, Contenido::Numero};
+    const auto columna = static_cast<std::uint32_t>(col);
+    if (columna >= c.columnas) return {};
+    const std::uint8_t* const longitudes = p + c.bytes;
+    const std::uint8_t longitud = longitudes[columna];
+    const std::uint8_t* const texto = longitudes + c.columnas + suma_bytes(longitudes, columna, c.largos);
+    return {{reinterpret_cast<const char*>(texto), bytes_guardados(longitud)},
+        longitud == LARGO ? Contenido::Largo : Contenido::Texto};
+}
+
+} // namespace Qlt4_Tabla
