@@ -147,6 +147,7 @@ public:
     /// (-) An array into a numeric column, element r into row r. Errors 9: column, bounds; 6: not finite.
     virtual void m_Asigna_Matriz_Numerica_a_Columna(std::int32_t columna, const Matriz<double>& Matriz1) = 0;
     /// (-) The same for texts into any other column. Error 9.
+    // NOLINTNEXTLINE(bugprone-reserved-identifier)
     virtual void m__Asigna_Matriz_Alfanume_a_Columna(
         std::int32_t columna, const Matriz<std::string>& Matriz1) = 0;
     /// Does nothing and changes no argument; not Show_Elige_Color.

@@ -23,9 +23,7 @@ using Llamada = Variante (*)(_Tabla0&, std::span<Variante>);
 
 enum NumErrorDespacho : int { MIEMBRO_DESCONOCIDO = 438, ARGUMENTOS_INCORRECTOS = 450 };
 
-// --- A value as an argument of type A. A null pointer or an omitted value is the optional default ---
-
-bool hay(const Variante* v) { return v != nullptr && !v->es_omitido(); }
+// --- A value as an argument of type A; an omitted one stands for 0, False or the empty text ---
 
 template <class D>
 D convierte(const Variante& v) {
@@ -70,7 +68,7 @@ class Paso {
 public:
     using D = std::remove_cvref_t<A>;
 
-    explicit Paso(Variante* v) : valor_(hay(v) ? convierte<D>(*v) : D{}) {}
+    explicit Paso(const Variante& v) : valor_(v.es_omitido() ? D{} : convierte<D>(v)) {}
 
     const D& valor() const { return valor_; }
 
@@ -80,12 +78,12 @@ private:
     D valor_;
 };
 
-// Any value, and arrays that the member only reads: no copy.
+// Any value, handed on as it is.
 template <class A>
 requires std::is_same_v<A, const Variante&>
 class Paso<A> {
 public:
-    explicit Paso(Variante* v) : v_(v) {}
+    explicit Paso(const Variante& v) : v_(&v) {}
 
     const Variante& valor() const { return *v_; }
 
@@ -95,16 +93,17 @@ private:
     const Variante* v_;
 };
 
+// Arrays, handed on without a copy.
 template <class A>
 requires EsMatriz<std::remove_cvref_t<A>>
 class Paso<A> {
 public:
     using D = std::remove_cvref_t<A>;
 
-    explicit Paso(Variante* v) {
+    explicit Paso(Variante& v) {
         if constexpr (!std::is_const_v<std::remove_reference_t<A>>)
-            if (v->es_vacio()) *v = D();
-        matriz_ = &matriz<D>(*v);
+            if (v.es_vacio()) v = D();
+        matriz_ = &matriz<D>(v);
     }
 
     A valor() const { return *matriz_; }
@@ -119,7 +118,7 @@ private:
 template <class D>
 requires(!std::is_const_v<D> && !EsMatriz<D>) class Paso<D&> {
 public:
-    explicit Paso(Variante* v) : v_(v), antes_(convierte<D>(*v)), valor_(antes_) {}
+    explicit Paso(Variante& v) : v_(&v), antes_(convierte<D>(v)), valor_(antes_) {}
 
     D& valor() { return valor_; }
 
@@ -135,7 +134,8 @@ private:
 
 template <auto puntero, class R, class... A, std::size_t... I>
 Variante llama(_Tabla0& tabla, std::span<Variante> v, R (_Tabla0::*)(A...), std::index_sequence<I...>) {
-    std::tuple<Paso<A>...> pasos{Paso<A>(I < v.size() ? &v[I] : nullptr)...};
+    [[maybe_unused]] Variante falta = Variante::omitido();
+    std::tuple<Paso<A>...> pasos{Paso<A>(I < v.size() ? v[I] : falta)...};
     Variante resultado;
     if constexpr (std::is_void_v<R>)
         (tabla.*puntero)(std::get<I>(pasos).valor()...);

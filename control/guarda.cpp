@@ -39,7 +39,7 @@ std::string prefijo_miembro(std::string_view miembro) {
 
 void trata_error(Mensajes& mensajes, std::string_view prefijo, const ErroresAlLlamador& pasan) {
     const Error error = error_actual();
-    if (pasan.contiene(error.numero())) throw error;
+    if (pasan.contiene(error.numero())) throw Error(error);
     std::string texto(prefijo);
     texto += numero_a_texto(error.numero());
     texto += textos::antes_de_descripcion;

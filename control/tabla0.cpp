@@ -162,6 +162,7 @@ void Tabla0::Cols(std::int32_t n) {
     protege(e_, miembro("Cols"), [&] { Qlt4_Tabla::Cols(e_, n); });
 }
 
+// NOLINTNEXTLINE(readability-function-size): the published arguments
 void Tabla0::Formatcol(std::int16_t Col, const std::string& Visib, const std::string& Bloqu,
     std::int16_t Formt, std::int16_t decim, std::int16_t posic, std::int16_t Longi, const std::string& nomb,
     std::int16_t Accion) {
@@ -169,6 +170,7 @@ void Tabla0::Formatcol(std::int16_t Col, const std::string& Visib, const std::st
         [&] { Qlt4_Tabla::Formatcol(e_, Col, Visib, Bloqu, Formt, decim, posic, Longi, nomb, Accion); });
 }
 
+// NOLINTNEXTLINE(readability-function-size): the published arguments
 void Tabla0::FormatoColumnas(std::int16_t Col, bool Invisib, bool Bloqu, T_formato Formato,
     std::int16_t decim, T_Alineacion Alinea, T_Accion Accion, std::int16_t Longit, const std::string& nomb) {
     protege(e_, miembro("FormatoColumnas"), [&] {
