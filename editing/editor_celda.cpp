@@ -79,8 +79,7 @@ int EditorCelda::tecla_casilla(int KeyAscii) {
     const std::int16_t clase = formato(e_, col).Formato;
     const bool espacio_confirma = KeyAscii == teclas::ESPACIO && !es_formato(clase, T_formato::Alfanm);
     if (KeyAscii == teclas::INTRO || espacio_confirma) {
-        if (abierta_casilla()) confirma_y_oculta();
-        avanza_y_enfoca();
+        confirma_y_avanza();
         return 0;
     }
     return abierta_casilla() && es_numerico(clase) ? filtra(KeyAscii) : KeyAscii;
@@ -106,8 +105,7 @@ int EditorCelda::tecla_lista(int KeyAscii) {
         return 0;
     }
     if (KeyAscii != teclas::INTRO && KeyAscii != teclas::ESPACIO) return KeyAscii;
-    if (abierta_lista()) escribe_eleccion();
-    avanza_y_enfoca();
+    confirma_y_avanza();
     return 0;
 }
 
@@ -245,8 +243,16 @@ void EditorCelda::confirma_y_oculta() {
     if (que_ != que) oculta(que); // unless the host opened the same one again
 }
 
-void EditorCelda::avanza_y_enfoca() {
-    if (abierto()) return;
+void EditorCelda::confirma_y_avanza() {
+    if (abierto() && !existe_celda()) {
+        descarta();
+        return;
+    }
+    if (abierta_lista())
+        escribe_eleccion();
+    else
+        confirma_y_oculta();
+    if (abierto()) return; // the host opened another
     try {
         avanza_();
     } catch (...) {

@@ -83,7 +83,7 @@ private:
     void escribe_eleccion(); // the list's direct write
     void confirma(const std::string& texto, bool escribe);
     void confirma_y_oculta(); // leaves the focus where it is
-    void avanza_y_enfoca();
+    void confirma_y_avanza(); // Enter and Space, open or closed
     int filtra(int KeyAscii);
     [[nodiscard]] bool existe_celda() const;
     void cierra();

@@ -74,7 +74,8 @@ Celda ConductorMemoria::punto_de(Celda celda) const {
 
 void ConductorMemoria::abajo(Celda celda, Modificadores mods) {
     const Celda p = punto_de(celda);
-    if (celda.fila < 0 && celda_en(tabla_.tablero(), p.col, p.fila) != Celda{})
+    const Celda ahi = celda_en(tabla_.tablero(), p.col, p.fila);
+    if (celda.fila < 0 && ahi.fila >= 0 && ahi.col >= 0)
         throw FalloGuion("the window shows no place beyond the last cell");
     p_.foco.pide(Foco::Tablero);
     tabla_.mandos().raton_abajo(p.col, p.fila, Boton::Izquierdo, mods);
@@ -96,8 +97,8 @@ void ConductorMemoria::doble_clic(Celda celda) {
 }
 
 void ConductorMemoria::arrastra(Celda desde, Celda hasta, Modificadores mods) {
-    abajo(desde, mods);
     const Celda p = punto_de(hasta);
+    abajo(desde, mods);
     tabla_.mandos().raton_mueve(p.col, p.fila);
     tabla_.mandos().raton_arriba(p.col, p.fila, Boton::Izquierdo);
     obedece();
