@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: MIT
+#include "ventana.h"
+
+#include "tabla_puntos.h"
+#include "textos.h"
+
+#include <QAction>
+#include <QFontMetrics>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QSplitter>
+#include <QStatusBar>
+
+#include <cstddef>
+
+namespace plano {
+
+using Qlt4_Tabla::TablaWidget;
+
+namespace {
+
+constexpr int MAX_RESUMEN = 10'000; // rows that a summary reads at every move of the selection
+
+/// The longest run of consecutive rows; the first of equal ones.
+std::pair<int, int> tramo_seguido(const std::vector<int>& filas) {
+    std::pair<int, int> mejor(filas.front(), filas.front());
+    int desde = filas.front();
+    for (std::size_t i = 1; i < filas.size(); ++i) {
+        if (filas[i] != filas[i - 1] + 1) desde = filas[i];
+        if (filas[i] - desde > mejor.second - mejor.first) mejor = {desde, filas[i]};
+    }
+    return mejor;
+}
+
+} // namespace
+
+Ventana::Ventana(const std::vector<Muestra>& muestras, int filas)
+    : widget_(new TablaWidget), tabla_(widget_->tabla()), plano_(new VistaPlano(tabla_.tablero())) {
+    setWindowTitle(textos::TITULO);
+    prepara_tabla(tabla_, muestras);
+    carga_puntos(tabla_, muestras, filas);
+
+    auto* division = new QSplitter(this);
+    division->addWidget(widget_);
+    division->addWidget(plano_);
+    division->setChildrenCollapsible(false);
+    division->setStretchFactor(1, 1);
+    division->setSizes({592, 768});
+    setCentralWidget(division);
+    pon_menus();
+    pon_barra_estado();
+    conecta_tabla();
+    conecta_plano();
+    resize(1360, 820);
+    widget_->setFocus();
+    refresca_estado();
+}
+
+void Ventana::pon_menus() {
+    const auto accion = [](QMenu* menu, const QString& texto, const QKeySequence& tecla, auto hace) {
+        QAction* a = menu->addAction(texto);
+        a->setShortcut(tecla);
+        QObject::connect(a, &QAction::triggered, menu, hace);
+        return a;
+    };
+    const auto marcada = [&](QMenu* menu, const QString& texto, auto hace) {
+        QAction* a = accion(menu, texto, {}, hace);
+        a->setCheckable(true);
+        a->setChecked(true);
+    };
+    QMenu* archivo = menuBar()->addMenu(textos::MENU_ARCHIVO);
+    accion(archivo, textos::SALIR, QKeySequence(Qt::CTRL | Qt::Key_Q), [this] { close(); });
+
+    QMenu* ver = menuBar()->addMenu(textos::MENU_VER);
+    accion(
+        ver, textos::ENCUADRAR_TODO, QKeySequence(Qt::CTRL | Qt::Key_0), [this] { plano_->encuadra_todo(); });
+    accion(ver, textos::ENCUADRAR_SELECCION, QKeySequence(Qt::CTRL | Qt::Key_9),
+        [this] { plano_->encuadra_seleccion(); });
+    accion(ver, textos::ACERCAR, QKeySequence(Qt::CTRL | Qt::Key_Plus), [this] { plano_->acerca(); });
+    accion(ver, textos::ALEJAR, QKeySequence(Qt::CTRL | Qt::Key_Minus), [this] { plano_->aleja(); });
+    ver->addSeparator();
+    marcada(ver, textos::VER_NOMBRES, [this](bool si) { plano_->con_nombres(si); });
+    marcada(ver, textos::VER_CUADRICULA, [this](bool si) { plano_->con_cuadricula(si); });
+
+    QMenu* ayuda = menuBar()->addMenu(textos::MENU_AYUDA);
+    accion(ayuda, textos::RATON, {},
+        [this] { QMessageBox::information(this, textos::TITULO, textos::SOBRE_RATON); });
+    accion(ayuda, textos::DATOS, {},
+        [this] { QMessageBox::information(this, textos::TITULO, textos::SOBRE_DATOS); });
+}
+
+void Ventana::pon_barra_estado() {
+    for (QLabel** etiqueta : {&cuenta_, &seleccion_, &coordenadas_}) {
+        *etiqueta = new QLabel(this);
+        (*etiqueta)->setTextFormat(Qt::PlainText);
+        (*etiqueta)->setContentsMargins(6, 0, 12, 0);
+    }
+    // Room for any coordinates of the ground, so that nothing moves while the pointer does.
+    const QString ancho = textos::COORDENADAS.arg(QStringLiteral("000000.00"), QStringLiteral("000000.00"));
+    coordenadas_->setMinimumWidth(coordenadas_->fontMetrics().horizontalAdvance(ancho) + 20);
+    coordenadas_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    statusBar()->addWidget(cuenta_);
+    statusBar()->addWidget(seleccion_, 1);
+    statusBar()->addPermanentWidget(coordenadas_);
+}
+
+// The events of the table. Each goes to the plan as it comes.
+void Ventana::conecta_tabla() {
+    connect(widget_, &TablaWidget::CambiaCasilla, this, &Ventana::casilla_cambiada);
+    connect(widget_, &TablaWidget::SelChange, this, [this] {
+        plano_->seleccion_cambiada();
+        refresca_estado();
+    });
+    connect(widget_, &TablaWidget::ACambiadoValorCombo, this,
+        [this](int fila, int) { plano_->fila_cambiada(fila); });
+    connect(widget_, &TablaWidget::Salir, this, [this] { plano_->setFocus(); });
+    connect(widget_, &TablaWidget::filas_insertadas, this, [this](int fila, int n) {
+        plano_->filas_insertadas(fila, n);
+        refresca_estado();
+    });
+    connect(widget_, &TablaWidget::filas_borradas, this, [this](int fila, int n) {
+        plano_->filas_borradas(fila, n);
+        refresca_estado();
+    });
+    connect(widget_, &TablaWidget::contenido_cambiado, this, [this] {
+        plano_->todo_cambiado();
+        refresca_estado();
+    });
+}
+
+// The picks of the plan become moves in the table; SelChange then brings them back to the plan.
+void Ventana::conecta_plano() {
+    Qlt4_Tabla::Mandos& mandos = tabla_.mandos();
+    const auto columna = [this] { return std::max<int>(tabla_.tablero().Col(), NOMBRE); };
+    connect(plano_, &VistaPlano::punto_elegido, this,
+        [&mandos, columna](int fila) { mandos.elige_celda(fila, columna()); });
+    connect(plano_, &VistaPlano::punto_extendido, this, [this, &mandos](int fila) {
+        mandos.elige_bloque(tabla_.tablero().Row(), NOMBRE, fila, tabla_.Cols() - 1);
+    });
+    connect(plano_, &VistaPlano::punto_abierto, this, [this, &mandos, columna](int fila) {
+        mandos.elige_celda(fila, columna());
+        widget_->setFocus();
+    });
+    connect(plano_, &VistaPlano::puntos_elegidos, this, &Ventana::elige_recuadro);
+    connect(plano_, &VistaPlano::puntero_en, this, [this](QPointF m) {
+        coordenadas_->setText(textos::COORDENADAS.arg(m.x(), 0, 'f', 2).arg(m.y(), 0, 'f', 2));
+    });
+    connect(plano_, &VistaPlano::puntero_fuera, coordenadas_, &QLabel::clear);
+}
+
+// At CambiaCasilla the committed cell is still the current one.
+void Ventana::casilla_cambiada() {
+    const int fila = tabla_.tablero().Row();
+    if (tabla_.tablero().Col() == INUNDACION) colorea_escrito(tabla_, fila);
+    plano_->fila_cambiada(fila);
+    refresca_estado();
+}
+
+// A table selects one block of rows: of scattered rows it takes the longest run, and says so.
+void Ventana::elige_recuadro(const std::vector<int>& filas) {
+    if (filas.empty()) return;
+    const auto [desde, hasta] = tramo_seguido(filas);
+    tabla_.mandos().elige_bloque(desde, NOMBRE, hasta, tabla_.Cols() - 1);
+    const int n = static_cast<int>(filas.size());
+    if (hasta - desde + 1 < n)
+        statusBar()->showMessage(textos::RECUADRO_SEGUIDAS.arg(n).arg(desde).arg(hasta), 6000);
+}
+
+void Ventana::refresca_estado() {
+    const Puntos& puntos = plano_->puntos();
+    const int n = puntos.situados();
+    QString texto = n == 1 ? textos::UN_PUNTO : textos::PUNTOS.arg(n);
+    if (const int faltan = puntos.filas() - n) texto = textos::SIN_SITUAR.arg(texto).arg(faltan);
+    cuenta_->setText(texto);
+    seleccion_->setText(resumen_seleccion());
+}
+
+// TextMatrix hands numbers out with a decimal comma, and "0" for an empty one.
+QString Ventana::resumen_seleccion() {
+    const Qlt4_Tabla::Bloque sel = tabla_.tablero().seleccion();
+    const int desde = std::max(1, sel.fila1);
+    const int n = sel.fila2 - desde + 1;
+    if (n < 1) return {};
+    if (n > MAX_RESUMEN) return textos::SELECCION_MUCHOS.arg(n);
+    double cota = 0, zinc = 0;
+    for (int fila = desde; fila <= sel.fila2; ++fila) {
+        cota += lee_numero(tabla_.TextMatrix(fila, COTA)).value_or(0);
+        zinc += lee_numero(tabla_.TextMatrix(fila, ZINC)).value_or(0);
+    }
+    const QString cota_media = QString::number(cota / n, 'f', 3);
+    const QString zinc_medio = QString::number(zinc / n, 'f', 0);
+    if (n > 1) return textos::SELECCION_VARIOS.arg(n).arg(cota_media, zinc_medio);
+    return textos::SELECCION_UNO.arg(
+        QString::fromStdString(tabla_.TextMatrix(desde, NOMBRE)), cota_media, zinc_medio);
+}
+
+} // namespace plano

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+// Ventana: the window of the drawing host. The table at the left and the plan at the right follow each other:
+// the table's events go to the plan, the plan's picks to the table, which alone holds the selection.
+#pragma once
+
+#include "muestras.h"
+#include "qt/tabla_widget.h"
+#include "vista_plano.h"
+
+#include <QMainWindow>
+
+#include <vector>
+
+class QLabel;
+
+namespace plano {
+
+class Ventana final : public QMainWindow {
+    Q_OBJECT
+
+public:
+    Ventana(const std::vector<Muestra>& muestras, int filas);
+
+private:
+    void pon_menus();
+    void pon_barra_estado();
+    void conecta_tabla();
+    void conecta_plano();
+    void casilla_cambiada();
+    void elige_recuadro(const std::vector<int>& filas);
+    void refresca_estado();
+    [[nodiscard]] QString resumen_seleccion();
+
+    Qlt4_Tabla::TablaWidget* widget_;
+    Qlt4_Tabla::Tabla0& tabla_;
+    VistaPlano* plano_;
+    QLabel* cuenta_ = nullptr;
+    QLabel* seleccion_ = nullptr;
+    QLabel* coordenadas_ = nullptr;
+};
+
+} // namespace plano
