@@ -30,7 +30,7 @@ constexpr int COL_REAL = 1; // 0-based among the data columns
 
 class Tabla {
 public:
-    Tabla() : tabla_(plataforma_.plataforma(), plataforma_.eventos) {
+    Tabla() : tabla_(sin_registro(), plataforma_.eventos) {
         tabla_.Cols(COLUMNAS + 1);
         constexpr T_formato CLASES[] = {
             T_formato::Entero, T_formato::Real__, T_formato::Alfanm, T_formato::Alfanm, T_formato::Alfanm};
@@ -61,14 +61,25 @@ public:
     void anade() { tabla_.crea_una_fila(); }
 
     void formatea(int col) {
-        // The column is given another count of decimals, so that every cell is rewritten.
+        // The column is given another count of decimals, so that every cell is rewritten; the others are
+        // made text columns, so that only this one is formatted.
         decimales_ = static_cast<std::int16_t>(5 - decimales_);
-        tabla_.FormatoColumnas(static_cast<std::int16_t>(col + 1), false, false, T_formato::Real__,
-            decimales_, T_Alineacion::Drcha, T_Accion::Nada__, 10, "Col");
+        for (std::int16_t c = 1; c <= COLUMNAS; ++c) {
+            const bool esta = c == col + 1;
+            tabla_.FormatoColumnas(c, false, false, esta ? T_formato::Real__ : T_formato::Alfanm,
+                esta ? decimales_ : std::int16_t{0}, T_Alineacion::Drcha, T_Accion::Nada__, 10, "Col");
+        }
         tabla_.Tablero_establece_Formato();
     }
 
 private:
+    // The platform in memory, but for a view that records nothing: a record of each notice would be measured.
+    Plataforma sin_registro() {
+        const Plataforma p = plataforma_.plataforma();
+        return {vista_, p.marco, p.casilla, p.lista, p.mensajes, p.separador, p.pasos};
+    }
+
+    VistaNula vista_;
     PlataformaMemoria plataforma_;
     Tabla0 tabla_;
     std::int16_t decimales_ = 3;
