@@ -86,7 +86,7 @@ void EventosMemoria::sucede(std::string evento) {
 }
 
 Plataforma PlataformaMemoria::plataforma() {
-    return {vista, marco, casilla, lista, mensajes, separador, pasos};
+    return {vista, marco, casilla, lista, mensajes, separador, pasos, ajustes};
 }
 
 } // namespace Qlt4_Tabla

@@ -3,14 +3,16 @@
 // properties and capture points go into one list of lines, `registro`, in the order they happened, so that
 // a test compares exact sequences:
 //   "SelChange", "CambiaCasilla", "Salir", "ACambiadoValorCombo 2 3", "mensaje|16|titulo|texto", "pitido",
-//   "puntero 11", "propiedad Rows", "captura", "restaura 1"
+//   "puntero 11", "propiedad Rows", "captura", "restaura 1", "ajuste application|section|key=value"
 // Notices of view, labels, menus and sizes are kept or counted apart. Read on in vista_memoria.h and
 // editores_memoria.h.
 #pragma once
 
 #include "base/imagen.h"
+#include "headless/ajustes_memoria.h"
 #include "headless/editores_memoria.h"
 #include "headless/foco_memoria.h"
+#include "headless/registro.h"
 #include "headless/vista_memoria.h"
 #include "platform/bolsa_propiedades.h"
 #include "platform/eventos.h"
@@ -26,8 +28,6 @@
 #include <vector>
 
 namespace Qlt4_Tabla {
-
-using Registro = std::vector<std::string>;
 
 /// Message boxes as lines of the record; answers are taken from the queue, else the box is closed.
 class MensajesMemoria final : public Mensajes {
@@ -173,6 +173,7 @@ struct PlataformaMemoria {
     MensajesMemoria mensajes{registro};
     SeparadorMemoria separador;
     PasosMemoria pasos{registro};
+    AjustesMemoria ajustes{registro};
     BolsaMemoria bolsa;
     EventosMemoria eventos{registro};
 

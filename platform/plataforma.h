@@ -3,6 +3,7 @@
 // end, the in-memory platform among them, makes one.
 #pragma once
 
+#include "platform/ajustes.h"
 #include "platform/almacen_pasos.h"
 #include "platform/caja_texto.h"
 #include "platform/lista_desplegable.h"
@@ -21,6 +22,7 @@ struct Plataforma {
     Mensajes& mensajes;
     const SeparadorDecimal& separador;
     AlmacenPasos& pasos;
+    Ajustes& ajustes;
 };
 
 } // namespace Qlt4_Tabla

@@ -37,7 +37,7 @@ PuertosQt::~PuertosQt() {
     if (reloj_) QApplication::restoreOverrideCursor();
 }
 
-Plataforma PuertosQt::plataforma() { return {*this, *this, *this, lista_, *this, *this, pasos_}; }
+Plataforma PuertosQt::plataforma() { return {*this, *this, *this, lista_, *this, *this, pasos_, ajustes_}; }
 
 void PuertosQt::conecta(VistaRejilla& vista, Casilla& casilla, ListaCelda& lista) {
     vista_ = &vista;
@@ -56,6 +56,7 @@ QRect PuertosQt::px(const Rectangulo& r) const {
 
 void PuertosQt::celdas_cambiadas(int fila1, int col1, int fila2, int col2) {
     if (vista_) vista_->celdas_cambiadas(fila1, col1, fila2, col2);
+    if (vista_) emit widget_.celdas_cambiadas(fila1, col1, fila2, col2);
 }
 
 void PuertosQt::filas_insertadas(int fila, int n) {

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "platform/plataforma.h"
+#include "qt/ajustes_qt.h"
 
 #include <QLocale>
 #include <QPointer>
@@ -29,6 +30,9 @@ public:
 
     [[nodiscard]] Plataforma plataforma();
     void conecta(VistaRejilla& vista, Casilla& casilla, ListaCelda& lista);
+
+    [[nodiscard]] AjustesQt& ajustes() { return ajustes_; }
+
     /// The host's own answer for the decimal sign; nothing: the user's locale.
     void pon_coma_decimal(std::optional<bool> coma) { coma_ = coma; }
 
@@ -93,6 +97,7 @@ private:
     QPointer<ListaCelda> cob_lista_;
     Lista lista_{*this};
     AlmacenPasosNulo pasos_;
+    AjustesQt ajustes_;
     std::optional<bool> coma_;
     bool reloj_ = false;
 };
