@@ -51,11 +51,9 @@ double al_pixel(const QPainter& p, double px) {
 }
 
 void placa(const Dibujo& d, const QRectF& sitio) {
-    QColor fondo = d.colores.fondo;
-    fondo.setAlpha(225);
-    d.p.setPen(Qt::NoPen);
-    d.p.setBrush(fondo);
-    d.p.drawRoundedRect(sitio, 4, 4);
+    d.p.setPen(QPen(d.colores.linea_placa, 1));
+    d.p.setBrush(d.colores.fondo);
+    d.p.drawRoundedRect(QRectF(sitio.toAlignedRect()).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
 }
 
 void pinta_norte(const Dibujo& d, const QRectF& sitio) {

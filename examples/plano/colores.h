@@ -19,6 +19,7 @@ struct Colores {
           texto(p.color(QPalette::Text)),
           marco(mezcla(fondo, texto, 30)),
           cuadricula(mezcla(fondo, texto, 9)),
+          linea_placa(mezcla(fondo, texto, 16)),
           tenue(mezcla(fondo, texto, 62)),
           sin_color(mezcla(fondo, texto, 35)),
           realce(mezcla(p.color(QPalette::Highlight), texto, fondo.lightness() < 128 ? 25 : 0)),
@@ -26,7 +27,7 @@ struct Colores {
           en_etiqueta(p.color(QPalette::HighlightedText)),
           margen(p.color(QPalette::Window)) {}
 
-    QColor fondo, texto, marco, cuadricula;
+    QColor fondo, texto, marco, cuadricula, linea_placa;
     QColor tenue; ///< figures on the axes
     QColor sin_color; ///< mark of a point without a colour of its own
     QColor realce; ///< ring of a selected point

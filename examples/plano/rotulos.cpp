@@ -9,7 +9,7 @@ namespace plano {
 namespace {
 
 constexpr double LADO_PX = 48;
-constexpr double SEPARACION_PX = 3;
+constexpr double SEPARACION_PX = 4;
 
 } // namespace
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ventana.h"
 
+#include "core/geometria.h"
 #include "tabla_puntos.h"
 #include "textos.h"
 
@@ -12,7 +13,9 @@
 #include <QSplitter>
 #include <QStatusBar>
 
+#include <algorithm>
 #include <cstddef>
+#include <utility>
 
 namespace plano {
 
@@ -105,43 +108,39 @@ void Ventana::pon_barra_estado() {
     statusBar()->addPermanentWidget(coordenadas_);
 }
 
-// The events of the table. Each goes to the plan as it comes.
+// What the table tells goes to the plan, which reads the changed rows when it draws itself again.
 void Ventana::conecta_tabla() {
-    connect(widget_, &TablaWidget::CambiaCasilla, this, &Ventana::casilla_cambiada);
+    connect(widget_, &TablaWidget::CambiaCasilla, this, [this] {
+        const auto& t = tabla_.tablero(); // the committed cell is still the current one
+        if (t.Col() == INUNDACION) colorea_escrito(tabla_, t.Row());
+    });
     connect(widget_, &TablaWidget::SelChange, this, [this] {
+        statusBar()->clearMessage();
         plano_->seleccion_cambiada();
         refresca_estado();
     });
-    connect(widget_, &TablaWidget::ACambiadoValorCombo, this,
-        [this](int fila, int) { plano_->fila_cambiada(fila); });
     connect(widget_, &TablaWidget::Salir, this, [this] { plano_->setFocus(); });
-    connect(widget_, &TablaWidget::filas_insertadas, this, [this](int fila, int n) {
-        plano_->filas_insertadas(fila, n);
-        refresca_estado();
-    });
-    connect(widget_, &TablaWidget::filas_borradas, this, [this](int fila, int n) {
-        plano_->filas_borradas(fila, n);
-        refresca_estado();
-    });
-    connect(widget_, &TablaWidget::contenido_cambiado, this, [this] {
-        plano_->todo_cambiado();
-        refresca_estado();
-    });
+    connect(widget_, &TablaWidget::celdas_cambiadas, this,
+        [this](int fila1, int, int fila2, int) { plano_->filas_cambiadas(fila1, fila2); });
+    connect(widget_, &TablaWidget::filas_insertadas, plano_, &VistaPlano::filas_insertadas);
+    connect(widget_, &TablaWidget::filas_borradas, plano_, &VistaPlano::filas_borradas);
+    connect(widget_, &TablaWidget::contenido_cambiado, plano_, &VistaPlano::todo_cambiado);
+    connect(plano_, &VistaPlano::puntos_leidos, this, &Ventana::refresca_estado);
 }
 
 // The picks of the plan become moves in the table; SelChange then brings them back to the plan.
 void Ventana::conecta_plano() {
-    Qlt4_Tabla::Mandos& mandos = tabla_.mandos();
-    const auto columna = [this] { return std::max<int>(tabla_.tablero().Col(), NOMBRE); };
-    connect(plano_, &VistaPlano::punto_elegido, this,
-        [&mandos, columna](int fila) { mandos.elige_celda(fila, columna()); });
-    connect(plano_, &VistaPlano::punto_extendido, this, [this, &mandos](int fila) {
-        mandos.elige_bloque(tabla_.tablero().Row(), NOMBRE, fila, tabla_.Cols() - 1);
-    });
-    connect(plano_, &VistaPlano::punto_abierto, this, [this, &mandos, columna](int fila) {
-        mandos.elige_celda(fila, columna());
+    const auto elige_punto = [this](int fila) {
+        const int col = std::max<int>(tabla_.tablero().Col(), NOMBRE);
+        elige(fila, col, fila, col);
+    };
+    connect(plano_, &VistaPlano::punto_elegido, this, elige_punto);
+    connect(plano_, &VistaPlano::punto_abierto, this, [this, elige_punto](int fila) {
+        elige_punto(fila);
         widget_->setFocus();
     });
+    connect(plano_, &VistaPlano::punto_extendido, this,
+        [this](int fila) { elige(tabla_.tablero().Row(), NOMBRE, fila, tabla_.Cols() - 1); });
     connect(plano_, &VistaPlano::puntos_elegidos, this, &Ventana::elige_recuadro);
     connect(plano_, &VistaPlano::puntero_en, this, [this](QPointF m) {
         coordenadas_->setText(textos::COORDENADAS.arg(m.x(), 0, 'f', 2).arg(m.y(), 0, 'f', 2));
@@ -149,19 +148,21 @@ void Ventana::conecta_plano() {
     connect(plano_, &VistaPlano::puntero_fuera, coordenadas_, &QLabel::clear);
 }
 
-// At CambiaCasilla the committed cell is still the current one.
-void Ventana::casilla_cambiada() {
-    const int fila = tabla_.tablero().Row();
-    if (tabla_.tablero().Col() == INUNDACION) colorea_escrito(tabla_, fila);
-    plano_->fila_cambiada(fila);
-    refresca_estado();
+// The table shows the current cell by itself; here the whole block, in the middle where it fits.
+void Ventana::elige(int fila, int col, int fila_sel, int col_sel) {
+    const auto [desde, hasta] = std::minmax(fila, fila_sel);
+    const int caben = Qlt4_Tabla::filas_visibles(tabla_.tablero());
+    const int arriba = tabla_.tablero().TopRow();
+    const bool a_la_vista = desde >= arriba && hasta < arriba + caben;
+    tabla_.mandos().elige_bloque(fila, col, fila_sel, col_sel);
+    if (!a_la_vista) tabla_.A_RowTop(std::max(1, desde - std::max(1, (caben - (hasta - desde + 1)) / 2)));
 }
 
 // A table selects one block of rows: of scattered rows it takes the longest run, and says so.
 void Ventana::elige_recuadro(const std::vector<int>& filas) {
     if (filas.empty()) return;
     const auto [desde, hasta] = tramo_seguido(filas);
-    tabla_.mandos().elige_bloque(desde, NOMBRE, hasta, tabla_.Cols() - 1);
+    elige(desde, NOMBRE, hasta, tabla_.Cols() - 1);
     const int n = static_cast<int>(filas.size());
     if (hasta - desde + 1 < n)
         statusBar()->showMessage(textos::RECUADRO_SEGUIDAS.arg(n).arg(desde).arg(hasta), 6000);

@@ -26,7 +26,7 @@ private:
     void pon_barra_estado();
     void conecta_tabla();
     void conecta_plano();
-    void casilla_cambiada();
+    void elige(int fila, int col, int fila_sel, int col_sel);
     void elige_recuadro(const std::vector<int>& filas);
     void refresca_estado();
     [[nodiscard]] QString resumen_seleccion();

@@ -34,12 +34,15 @@ VistaPlano::VistaPlano(const Qlt4_Tabla::Tablero& tablero, QWidget* padre)
 }
 
 const Puntos& VistaPlano::puntos() {
-    if (puntos_.pon_al_dia(tablero_)) capa_ = QPixmap();
+    if (puntos_.pon_al_dia(tablero_)) {
+        capa_ = QPixmap();
+        emit puntos_leidos();
+    }
     return puntos_;
 }
 
-void VistaPlano::fila_cambiada(int fila) {
-    puntos_.marca(fila, fila);
+void VistaPlano::filas_cambiadas(int desde, int hasta) {
+    puntos_.marca(desde, hasta);
     update();
 }
 

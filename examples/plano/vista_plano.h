@@ -24,7 +24,7 @@ public:
     const Puntos& puntos();
 
     // What the table tells.
-    void fila_cambiada(int fila);
+    void filas_cambiadas(int desde, int hasta);
     void filas_insertadas(int fila, int n);
     void filas_borradas(int fila, int n);
     void todo_cambiado();
@@ -44,6 +44,7 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override { return {200, 160}; }
 
 signals:
+    void puntos_leidos(); ///< changed rows were read from the table
     void puntero_en(QPointF metros);
     void puntero_fuera();
     void punto_elegido(int fila); ///< a click
