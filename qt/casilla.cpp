@@ -74,7 +74,7 @@ void Casilla::keyPressEvent(QKeyEvent* e) {
         if (mandos().tecla_casilla(codigo) == 0) return;
     }
     QLineEdit::keyPressEvent(e);
-    if (!codigos.empty()) e->accept(); // a key that the box could not use is not a key of the grid
+    e->accept(); // a key that the box could not use, such as Up, is not a key of the grid
 }
 
 void Casilla::inputMethodEvent(QInputMethodEvent* e) {

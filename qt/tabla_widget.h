@@ -46,7 +46,10 @@ signals:
     void CambiaCasilla();
     void ACambiadoValorCombo(int Mouse_Row, int Mouse_Col);
 
-    // What a host that shows the rows elsewhere may want to follow.
+    // What a host that shows the rows elsewhere may want to follow. They may come in the middle of a command:
+    // note what changed and read it later, when drawing.
+    /// Texts, colours or pictures changed in the rectangle; corners inclusive, ascending.
+    void celdas_cambiadas(int fila1, int col1, int fila2, int col2);
     void filas_insertadas(int fila, int n);
     void filas_borradas(int fila, int n);
     void contenido_cambiado();
