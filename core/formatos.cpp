@@ -9,6 +9,7 @@
 #include "core/reglas_valor.h"
 #include "core/textos.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace Qlt4_Tabla {
@@ -70,14 +71,24 @@ void establece_columna(EstadoTabla& e, int col) {
     alinea_columna(e.tablero, col, f.Alineacion);
 }
 
-/// Formato_Numero of the number's text; without decimals that is the text itself.
-void muestra_numero(double x, int decimales, std::string& destino) {
+/// Can the text be no number near the end of the range of a double? Then its number shows what the text does.
+bool es_corriente(std::string_view texto) {
+    const auto de_exponente = [](char c) { return (c | 0x20) == 'e' || (c | 0x20) == 'd'; };
+    return texto.size() < 300 && std::none_of(texto.begin(), texto.end(), de_exponente);
+}
+
+/// The cell's number, written by the standard conversion and shown with its decimals. Most texts take the
+/// short way, which gives the same.
+void muestra_numero(std::string_view texto, int decimales, std::string& destino) {
     if (decimales > 0) {
-        Formato_Numero(x, 0, decimales, destino);
+        if (es_corriente(texto))
+            Formato_Numero(texto, 0, decimales, destino);
+        else
+            Formato_Numero(Valor_Numerico(texto), 0, decimales, destino);
         return;
     }
     char cifras[capacidad_numero];
-    destino.assign(cifras, escribe_numero(x, cifras, capacidad_numero));
+    destino.assign(cifras, escribe_numero(Valor_Numerico(texto), cifras, capacidad_numero));
 }
 
 /// Every number of the column in the form of its decimals; cells that have it already are left.
@@ -87,7 +98,7 @@ void reformatea_numeros(EstadoTabla& e, int col, int decimales) {
         col, 1, e.tablero.Rows() - 1, [&](int, std::string_view texto, std::string& nuevo) {
             if (texto.empty()) return false;
             if (!std::exchange(preguntado, true)) refresca_ComaDecimal(e);
-            muestra_numero(Valor_Numerico(texto), decimales, nuevo);
+            muestra_numero(texto, decimales, nuevo);
             return nuevo != texto;
         });
 }

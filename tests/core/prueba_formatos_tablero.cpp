@@ -332,6 +332,19 @@ TEST_F(Formatos_en_tablero, lo_que_no_es_numero_se_vuelve_cero_y_lo_vacio_queda_
     EXPECT_EQ(formateada({"abc", ""}, T_formato::Entero), (Textos{"0", ""}));
 }
 
+TEST_F(Formatos_en_tablero, un_numero_cuyo_texto_desborda_se_muestra_como_cero) {
+    // The largest double: its 15 digits are beyond the range.
+    EXPECT_EQ(formateada({"1.7976931348623157e308", "1.7976931348623157D308"}, T_formato::Real__, 2),
+        (Textos{"0.00", "0.00"}));
+    EXPECT_EQ(formateada({std::string(309, '1') + "0"}, T_formato::Real__, 1), (Textos{"0.0"}));
+    EXPECT_EQ(formateada({"1.7976931348623157e308"}, T_formato::Entero), (Textos{"1.79769313486232E+308"}));
+}
+
+TEST_F(Formatos_en_tablero, las_cifras_tras_la_decimoquinta_son_ceros) {
+    EXPECT_EQ(formateada({"1234567890123456.7", "0.12345678901234567", "&HFF", "1e2"}, T_formato::Real__, 2),
+        (Textos{"1234567890123460.00", "0.12", "255.00", "100.00"}));
+}
+
 TEST_F(Formatos_en_tablero, formatear_otra_vez_no_cambia_nada) {
     const Textos una = formateada({"1,5", "-2.6789", "abc"}, T_formato::Real__, 2);
     EXPECT_EQ(una, (Textos{"1.50", "-2.68", "0.00"}));
