@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QImage>
+#include <QLoggingCategory>
 #include <QPalette>
 #include <QPixmap>
 #include <QSet>
@@ -100,6 +101,9 @@ inline int captura(QWidget& ventana, const QString& fichero) {
 
 /// Shows the window until it is closed, or draws it into the file asked for.
 inline int corre(QWidget& ventana, const Opciones& opciones) {
+    // Without a screen Qt warns of what a window asks of the screen; nobody is to wonder about that.
+    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+        QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
     ventana.show();
     return opciones.captura.isEmpty() ? QApplication::exec() : captura(ventana, opciones.captura);
 }
