@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Each call translates, asks the rules and keeps their errors inside. The rules stand in editing/.
+// The front end's way in: each call translates, asks the rules of editing/ and keeps their errors inside.
 #include "control/mandos.h"
 
 #include "control/guarda.h"
@@ -81,6 +81,10 @@ bool Mandos::tecla_abajo(int KeyCode, Modificadores mods) {
 bool Mandos::tecla_pulsada(int KeyAscii) {
     bool usada = true;
     protege(TABLERO, [&] {
+        if (editor_.abierto()) {
+            editor_.teclea(KeyAscii);
+            return;
+        }
         switch (KeyAscii) {
         case teclas::INTRO: navegacion_.Avanza_Cursor(); break;
         case teclas::ESCAPE: e_.eventos.Salir(); break;
@@ -99,13 +103,14 @@ bool Mandos::tecla_pulsada(int KeyAscii) {
 
 void Mandos::raton_abajo(int x, int y, Boton boton, Modificadores mods) {
     if (boton != Boton::Izquierdo) return;
+    arrastrando_ = false;
     protege(TABLERO, [&] {
         // Where the user pointed, before a commit can move rows under the mouse.
         pulsada_ = celda_en(e_.tablero, x, y);
-        arrastrando_ = true;
         editor_.confirma_y_cierra();
-        if (pulsada_.fila < e_.tablero.Rows() && pulsada_.col < e_.tablero.Cols())
-            navegacion_.raton_abajo(pulsada_, mods);
+        if (pulsada_.fila >= e_.tablero.Rows() || pulsada_.col >= e_.tablero.Cols()) return;
+        arrastrando_ = true;
+        navegacion_.raton_abajo(pulsada_, mods);
     });
 }
 

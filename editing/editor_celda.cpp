@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+// The in-cell editor: its openings, its keys, its commits and its end. The states and what the host may do
+// inside the events are told in the header.
 #include "editing/editor_celda.h"
 
 #include "base/pagina1252.h"
@@ -96,6 +98,18 @@ int EditorCelda::filtra(int KeyAscii) {
         caja.selecciona(std::max(0, longitud(filtrado.texto) - hasta_el_final), 0);
     }
     return filtrado.KeyAscii;
+}
+
+void EditorCelda::teclea(int KeyAscii) {
+    if (abierta_lista()) tecla_lista(KeyAscii);
+    if (!abierta_casilla() || tecla_casilla(KeyAscii) < teclas::ESPACIO) return;
+    CajaTexto& caja = e_.plataforma.casilla;
+    const std::string texto = caja.texto();
+    const std::string caracter = utf8::codifica(punto_de_tecla(KeyAscii));
+    const int cursor = caja.cursor();
+    const std::size_t donde = utf8::byte_de(texto, static_cast<std::size_t>(cursor));
+    caja.pon_texto(texto.substr(0, donde) + caracter + texto.substr(donde));
+    caja.selecciona(cursor + 1, 0);
 }
 
 int EditorCelda::tecla_lista(int KeyAscii) {

@@ -54,6 +54,9 @@ public:
 
     /// A key in the open box. Returns the key to be typed, or 0 when it was dropped or handled.
     int tecla_casilla(int KeyAscii);
+    /// A character that reaches the grid while an editor is open (an input method gives several at once):
+    /// a key of the editor, typed at the caret of the box. Closed: nothing.
+    void teclea(int KeyAscii);
     /// A key in the open list. Returns 0 when it was handled, else the list acts on it itself. Enter and
     /// Space write the entry directly: no capture point, no `CambiaCasilla`, not marked as modified.
     int tecla_lista(int KeyAscii);

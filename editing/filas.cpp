@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Row operations, each in the order of its steps: capture point, change, numbers, the host's event.
 #include "editing/filas.h"
 
 #include "base/aritmetica.h"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The advance, the grid's own keys, the mouse and the wheel.
 #include "editing/navegacion.h"
 
 #include "base/aritmetica.h"

@@ -186,6 +186,36 @@ TEST_F(PruebaEditor, las_teclas_de_la_lista_vuelven_como_vinieron) {
     EXPECT_TRUE(editor.abierta_lista());
 }
 
+TEST_F(PruebaEditor, lo_que_llega_al_tablero_con_la_casilla_abierta_se_teclea_en_ella) {
+    edita(1, 1, "ab");
+    p.casilla.selecciona(1, 0);
+    for (const int codigo : {241, int{'x'}, 0x1F600}) editor.teclea(codigo);
+    EXPECT_EQ(p.casilla.texto(), "añx😀b");
+    EXPECT_EQ(p.casilla.cursor(), 4);
+    editor.teclea(teclas::RETROCESO);
+    EXPECT_EQ(p.casilla.texto(), "añx😀b");
+    editor.teclea(teclas::INTRO);
+    EXPECT_EQ(celda(1, 1), "añx😀b");
+    editor.teclea('z');
+    EXPECT_FALSE(editor.abierto());
+}
+
+TEST_F(PruebaEditor, lo_que_llega_al_tablero_pasa_el_filtro_de_la_casilla) {
+    edita(1, 3, "1");
+    for (const int codigo : {int{'a'}, int{'2'}, int{'.'}, int{'-'}}) editor.teclea(codigo);
+    EXPECT_EQ(p.casilla.texto(), "-12");
+    EXPECT_EQ(p.casilla.cursor(), 3);
+}
+
+TEST_F(PruebaEditor, lo_que_llega_al_tablero_con_la_lista_abierta_es_de_la_lista) {
+    va(1, 4);
+    editor.abre_por_F2();
+    editor.teclea('b');
+    EXPECT_TRUE(editor.abierta_lista());
+    editor.teclea(teclas::ESCAPE);
+    EXPECT_FALSE(editor.abierto());
+}
+
 // --- Columns beyond the formats ---
 
 TEST_F(PruebaEditor, una_columna_sin_formato_da_error_9_y_no_abre) {

@@ -135,8 +135,17 @@ TEST_F(PruebaMandos, pulsar_donde_la_confirmacion_quito_la_fila_no_selecciona) {
     };
     m().raton_abajo(x(2), y(3), Boton::Izquierdo, {});
     m().raton_arriba(x(2), y(3), Boton::Izquierdo);
+    m().raton_mueve(x(3), y(1));
     EXPECT_EQ(t().Row(), 1);
+    EXPECT_EQ(t().Col(), 1);
+    EXPECT_EQ(t().ColSel(), 1);
     EXPECT_FALSE(m().editor().abierto());
+}
+
+TEST_F(PruebaMandos, varios_caracteres_de_una_vez_van_a_la_misma_casilla) {
+    for (const int codigo : {0x4F60, 0x597D, int{'!'}}) EXPECT_TRUE(m().tecla_pulsada(codigo));
+    EXPECT_EQ(p.casilla.texto(), "你好!");
+    EXPECT_THAT(p.registro, IsEmpty());
 }
 
 TEST_F(PruebaMandos, un_borde_de_ninguna_columna_no_hace_nada) {

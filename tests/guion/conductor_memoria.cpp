@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The windowless conductor: keys by focus, mouse by the middle of the cell.
 #include "tests/guion/conductor_memoria.h"
 
 #include "base/pagina1252.h"

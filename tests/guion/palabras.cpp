@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Cutting of a step into words and numbers.
 #include "tests/guion/palabras.h"
 
 #include <charconv>
