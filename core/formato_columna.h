@@ -19,7 +19,8 @@ inline constexpr std::int32_t COLOR_CARA_BOTON = static_cast<std::int32_t>(0x800
 /// The background of a locked column's header cell, 0x00BBGGRR.
 inline constexpr std::int32_t COLOR_CABECERA_BLOQUEADA = 0xE0E0E0;
 
-// Double and trailing underscores below are part of published names.
+// Double and trailing underscores below are part of published names, which hosts are bound to.
+// NOLINTBEGIN(bugprone-reserved-identifier)
 
 /// The kinds of value of a column.
 enum class T_formato : std::int32_t {
@@ -43,6 +44,8 @@ enum class T_Accion : std::int32_t {
     Increm = 2, ///< the text of the row above with its trailing number raised by one
     Decrem = 3, ///< nothing, by design
 };
+
+// NOLINTEND(bugprone-reserved-identifier)
 
 /// The named colours of the colouring members.
 enum class T_colores : std::int32_t {
@@ -76,14 +79,10 @@ struct T_Col {
 };
 
 /// True for Entero, EntPos, Real__ and RealPo.
-[[nodiscard]] constexpr bool es_numerico(std::int16_t formato) {
-    return formato >= 0 && formato <= 3;
-}
+[[nodiscard]] constexpr bool es_numerico(std::int16_t formato) { return formato >= 0 && formato <= 3; }
 
 /// True for Real__ and RealPo.
-[[nodiscard]] constexpr bool es_real(std::int16_t formato) {
-    return formato == 2 || formato == 3;
-}
+[[nodiscard]] constexpr bool es_real(std::int16_t formato) { return formato == 2 || formato == 3; }
 
 [[nodiscard]] constexpr bool es_formato(std::int16_t formato, T_formato f) {
     return formato == static_cast<std::int16_t>(f);

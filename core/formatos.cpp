@@ -118,6 +118,8 @@ void reinicia_lista(EstadoTabla& e, int col) {
 
 } // namespace
 
+// Their argument lists are published.
+// NOLINTBEGIN(readability-function-size)
 void FormatoColumnas(EstadoTabla& e, std::int16_t Col, bool Invisib, bool Bloqu, T_formato Formato,
     std::int16_t decim, T_Alineacion Alinea, T_Accion Accion, std::int16_t Longit, std::string_view nomb) {
     guarda(e, Col,
@@ -144,6 +146,8 @@ void Formatcol(EstadoTabla& e, std::int16_t Col, std::string_view Visib, std::st
             .Alineacion = posic,
             .Accion = Accion});
 }
+
+// NOLINTEND(readability-function-size)
 
 void Tablero_Formato_por_defecto(EstadoTabla& e) { e.Formatos = e.Formatos_por_defecto; }
 

@@ -80,13 +80,13 @@ void EventosMemoria::ACambiadoValorCombo(std::int32_t& Mouse_Row, std::int32_t& 
     sucede("ACambiadoValorCombo " + std::to_string(Mouse_Row) + ' ' + std::to_string(Mouse_Col));
 }
 
-void EventosMemoria::sucede(std::string evento) {
+void EventosMemoria::sucede(const std::string& evento) {
     registro_->push_back(evento);
     if (al_suceder) al_suceder(evento);
 }
 
 Plataforma PlataformaMemoria::plataforma() {
-    return {vista, marco, casilla, lista, mensajes, separador, pasos, ajustes};
+    return {vista, marco, casilla, lista, mensajes, separador, pasos, ajustes, ficheros, dialogo_fichero};
 }
 
 } // namespace Qlt4_Tabla

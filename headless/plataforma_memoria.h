@@ -3,14 +3,17 @@
 // properties and capture points go into one list of lines, `registro`, in the order they happened, so that
 // a test compares exact sequences:
 //   "SelChange", "CambiaCasilla", "Salir", "ACambiadoValorCombo 2 3", "mensaje|16|titulo|texto", "pitido",
-//   "puntero 11", "propiedad Rows", "captura", "restaura 1", "ajuste application|section|key=value"
+//   "puntero 11", "propiedad Rows", "captura", "restaura 1", "ajuste application|section|key=value",
+//   "dialogo_fichero abrir|title|filter|folder|name|extension"
 // Notices of view, labels, menus and sizes are kept or counted apart. Read on in vista_memoria.h and
 // editores_memoria.h.
 #pragma once
 
 #include "base/imagen.h"
 #include "headless/ajustes_memoria.h"
+#include "headless/dialogo_fichero_memoria.h"
 #include "headless/editores_memoria.h"
+#include "headless/ficheros_memoria.h"
 #include "headless/foco_memoria.h"
 #include "headless/registro.h"
 #include "headless/vista_memoria.h"
@@ -145,7 +148,7 @@ public:
     void ACambiadoValorCombo(std::int32_t& Mouse_Row, std::int32_t& Mouse_Col) override;
 
 private:
-    void sucede(std::string evento);
+    void sucede(const std::string& evento);
 
     Registro* registro_;
 };
@@ -174,6 +177,8 @@ struct PlataformaMemoria {
     SeparadorMemoria separador;
     PasosMemoria pasos{registro};
     AjustesMemoria ajustes{registro};
+    FicherosMemoria ficheros;
+    DialogoFicheroMemoria dialogo_fichero{registro};
     BolsaMemoria bolsa;
     EventosMemoria eventos{registro};
 
