@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The text box over Qt's line edit: hands keys, text and focus on to the in-cell editor.
 #include "qt/casilla.h"
 
 #include "qt/accesible.h"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The drop-down over Qt's combo box: hands keys, choice and focus on to the in-cell editor.
 #include "qt/lista_celda.h"
 
 #include "qt/accesible.h"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Draws the visible cells part by part, in the order that the header gives.
 #include "qt/pintor_rejilla.h"
 
 #include "core/formato_columna.h"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The table of Qt's keys and their codes, and the reading of a key event.
 #include "qt/teclas_qt.h"
 
 #include "base/pagina1252.h"

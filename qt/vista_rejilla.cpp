@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Translates the window's events into calls of Mandos and repaints what the notices name.
 #include "qt/vista_rejilla.h"
 
 #include "base/teclas.h"

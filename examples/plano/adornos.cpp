@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Draws the axes and their grid, the scale bar, the north arrow and the legend; what each is: adornos.h.
 #include "adornos.h"
 
 #include "textos.h"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The arithmetic of zoom and pan between metres on the ground and pixels of the window.
 #include "encuadre.h"
 
 #include <algorithm>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Reads the points line by line from the comma-separated resource.
 #include "muestras.h"
 
 #include <QFile>

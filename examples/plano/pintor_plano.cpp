@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Draws marks, names and what is selected, in that order.
 #include "pintor_plano.h"
 
 #include "rotulos.h"

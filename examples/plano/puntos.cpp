@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Reads places and colours of changed rows from the grid, once before each drawing.
 #include "puntos.h"
 
 #include "tabla_puntos.h"

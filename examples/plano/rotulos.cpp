@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Tries the places around each mark and takes the first that is free.
 #include "rotulos.h"
 
 #include <algorithm>

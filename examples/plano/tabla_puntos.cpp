@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Sets the table up in the order a host must keep: names, formats, lists, rows, cells.
 #include "tabla_puntos.h"
 
 #include "textos.h"

@@ -39,6 +39,7 @@ inline const QString VER_CUADRICULA = QStringLiteral("C&uadrícula");
 inline const QString MENU_AYUDA = QStringLiteral("A&yuda");
 inline const QString RATON = QStringLiteral("&Ratón y teclas del plano");
 inline const QString DATOS = QStringLiteral("&Origen de los datos");
+inline const QString ACEPTAR = QStringLiteral("Aceptar");
 inline const QString SOBRE_RATON =
     QStringLiteral("<table cellspacing='4'>"
                    "<tr><td><b>Rueda</b></td><td>acercar y alejar alrededor del puntero</td></tr>"

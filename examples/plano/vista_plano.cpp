@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Mouse, wheel and keys of the plan, and when it is drawn anew.
 #include "vista_plano.h"
 
 #include "tabla_puntos.h"
