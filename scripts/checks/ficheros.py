@@ -12,6 +12,7 @@ from arbol import CODIGO, RAIZ, acaba, capas, carpeta_de, ficheros
 TEXTO = CODIGO | {".py", ".sh", ".cmake", ".txt", ".md", ".json", ".guion", ".qrc", ".supp", ".ui", ".in"}
 CON_SPDX = CODIGO | {".py", ".sh", ".cmake", ".supp", ".guion"}
 NOMBRE = re.compile(r"^[a-z0-9_.-]+$")
+SUELTOS = {"CMakeLists.txt", "README.md"}
 CASAS = set(capas()) | {"tests", "examples", "benchmarks", "fuzz", "tools", "cmake", "scripts"}
 
 
@@ -74,7 +75,7 @@ mirados = [f for f in ficheros() if de_la_casa(f)]
 for ruta in mirados:
     bytes_ = (RAIZ / ruta).read_bytes()
     faltas += faltas_de_texto(ruta, bytes_)
-    if carpeta_de(ruta) in CASAS and not all(NOMBRE.match(p) for p in ruta.parts) and ruta.name != "CMakeLists.txt":
+    if carpeta_de(ruta) in CASAS and not all(NOMBRE.match(p) for p in ruta.parts) and ruta.name not in SUELTOS:
         faltas.append(f"{ruta}: file names are ASCII lower case")
     if ruta.suffix in CODIGO:
         faltas += faltas_de_codigo(ruta, bytes_.decode("utf-8", errors="replace"))
