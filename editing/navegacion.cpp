@@ -3,8 +3,8 @@
 #include "editing/navegacion.h"
 
 #include "base/aritmetica.h"
+#include "core/sin_errores.h"
 #include "editing/filas.h"
-#include "editing/sin_errores.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -6,6 +6,8 @@
 #include "platform/ajustes.h"
 #include "platform/almacen_pasos.h"
 #include "platform/caja_texto.h"
+#include "platform/dialogo_fichero.h"
+#include "platform/ficheros.h"
 #include "platform/lista_desplegable.h"
 #include "platform/marco.h"
 #include "platform/mensajes.h"
@@ -23,6 +25,8 @@ struct Plataforma {
     const SeparadorDecimal& separador;
     AlmacenPasos& pasos;
     Ajustes& ajustes;
+    Ficheros& ficheros;
+    DialogoFichero& dialogo_fichero;
 };
 
 } // namespace Qlt4_Tabla

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Each seam forwards to its widget once there is one.
 #include "qt/puertos_qt.h"
 
 #include "base/utf8.h"
@@ -37,7 +38,9 @@ PuertosQt::~PuertosQt() {
     if (reloj_) QApplication::restoreOverrideCursor();
 }
 
-Plataforma PuertosQt::plataforma() { return {*this, *this, *this, lista_, *this, *this, pasos_, ajustes_}; }
+Plataforma PuertosQt::plataforma() {
+    return {*this, *this, *this, lista_, *this, *this, pasos_, ajustes_, ficheros_, dialogo_};
+}
 
 void PuertosQt::conecta(VistaRejilla& vista, Casilla& casilla, ListaCelda& lista) {
     vista_ = &vista;

@@ -4,6 +4,7 @@
 // widgets, what would be shown is dropped (the widgets draw the whole state when they appear).
 #pragma once
 
+#include "headless/ficheros_disco.h"
 #include "platform/plataforma.h"
 #include "qt/ajustes_qt.h"
 
@@ -98,6 +99,8 @@ private:
     Lista lista_{*this};
     AlmacenPasosNulo pasos_;
     AjustesQt ajustes_;
+    FicherosDisco ficheros_;
+    DialogoFicheroNulo dialogo_;
     std::optional<bool> coma_;
     bool reloj_ = false;
 };

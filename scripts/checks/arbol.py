@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 """The tree as the checks see it: the layers, the files, the string literals of a C++ source.
 
-Main names: RAIZ, capas, ficheros, carpeta_de, literales, acaba.
+Main names: RAIZ, capas, del_sistema, ficheros, carpeta_de, literales, acaba.
 """
 import re
 import sys
@@ -30,6 +30,16 @@ def cabeceras_contadas():
         fila = re.match(r"only ([a-z_]+) ([a-z_]+) *:(.*)$", linea)
         if fila:
             filas[fila[1], fila[2]] = set(fila[3].split())
+    return filas
+
+
+def del_sistema():
+    """The rows "system FILE : headers" of capas.txt: {FILE: the headers of the system it may include}."""
+    filas = {}
+    for linea in (RAIZ / "cmake/capas.txt").read_text(encoding="utf-8").splitlines():
+        fila = re.match(r"system ([a-z_0-9/.]+) *:(.*)$", linea)
+        if fila:
+            filas[fila[1]] = set(fila[2].split())
     return filas
 
 

@@ -2,12 +2,12 @@
 """Checks every #include against the table of cmake/capas.txt.
 
 A folder includes itself and the folders of its row; qt/ also Qt; the rest only the C++ standard
-library. A source includes its own header first. Tests of a folder see what the folder sees, plus
+library, and a few named sources headers of the system. A source includes its own header first. Tests of a folder see what the folder sees, plus
 headless/, tests/ and GoogleTest.
 """
 import re
 
-from arbol import CODIGO, RAIZ, acaba, cabeceras_contadas, capas, carpeta_de, ficheros
+from arbol import CODIGO, RAIZ, acaba, cabeceras_contadas, capas, carpeta_de, del_sistema, ficheros
 
 INCLUYE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*(?:"([^"]+)"|<([^>]+)>)', re.M)
 ESTANDAR = re.compile(r"^[a-z_0-9]+$")
@@ -17,6 +17,7 @@ GENERADO = re.compile(r'^(moc_\w+\.cpp|\w+\.moc|ui_\w+\.h)$')
 
 FILAS = capas()
 CONTADAS = cabeceras_contadas()
+DEL_SISTEMA = del_sistema()
 
 
 def permisos(ruta):
@@ -62,6 +63,8 @@ def faltas_de(ruta):
                 yield f"{aqui} {nuestra} does not exist"
             elif nuestra.split("/", 1)[1] not in CONTADAS.get((quien, carpeta), {nuestra.split("/", 1)[1]}):
                 yield f"{aqui} {nuestra} is not one of the headers of {carpeta}/ that {quien} may include"
+        elif fuera in DEL_SISTEMA.get(ruta.as_posix(), ()):
+            continue
         elif not (ESTANDAR.match(fuera) or (con_qt and QT.match(fuera)) or (con_pruebas and PRUEBAS.match(fuera))):
             yield f"{aqui} {quien} may not include <{fuera}>: only the standard library" + (", Qt" if con_qt else "")
 

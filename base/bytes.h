@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+// Bytes: a block of bytes that is not zeroed before it is filled, for whole files. It grows in place where
+// the system can. Growing without memory: std::bad_alloc, unchanged.
+#pragma once
+
+#include <cstddef>
+#include <cstdlib>
+#include <memory>
+#include <new>
+#include <string_view>
+
+namespace Qlt4_Tabla {
+
+class Bytes {
+public:
+    Bytes() = default;
+
+    /// `n` bytes of no particular value.
+    explicit Bytes(std::size_t n) { resize(n); }
+
+    [[nodiscard]] char* data() { return datos_.get(); }
+
+    [[nodiscard]] std::size_t size() const { return cuantos_; }
+
+    [[nodiscard]] std::size_t capacity() const { return cabida_; }
+
+    /// The first bytes stay; those added have no particular value.
+    void resize(std::size_t n) {
+        if (n > cabida_) reserve(n);
+        cuantos_ = n;
+    }
+
+    /// Room for `n` bytes without another change of place.
+    void reserve(std::size_t n) {
+        if (n <= cabida_) return;
+        void* const nuevos = std::realloc(datos_.get(), n);
+        if (nuevos == nullptr) throw std::bad_alloc();
+        static_cast<void>(datos_.release());
+        datos_.reset(static_cast<char*>(nuevos));
+        cabida_ = n;
+    }
+
+    [[nodiscard]] std::string_view vista() const { return {datos_.get(), cuantos_}; }
+
+private:
+    struct Libera {
+        void operator()(char* p) const { std::free(p); }
+    };
+
+    std::unique_ptr<char, Libera> datos_;
+    std::size_t cuantos_ = 0;
+    std::size_t cabida_ = 0;
+};
+
+} // namespace Qlt4_Tabla
