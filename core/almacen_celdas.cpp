@@ -70,7 +70,6 @@ struct SinNumero {
 struct AlmacenCeldas::Interior {
     IndiceTrozos indice;
     TextosLargos largos;
-    int columnas = 0;
     SinNumero sin_numero;
     mutable CifrasFila cifras{}; // of the row number given last
     enum class Altos { No, Si, Quiza };
@@ -78,20 +77,23 @@ struct AlmacenCeldas::Interior {
     std::vector<std::uint8_t> fila_nueva; // kept for its memory
 
     [[nodiscard]] std::string_view texto(const CeldaGuardada& c, int fila, CifrasFila& cifras_fila) const {
-        if (c.contenido == Contenido::Texto) return c.bytes;
-        return c.contenido == Contenido::Numero ? numero_de(fila, cifras_fila)
-                                                : largos.texto(asa_de(c.bytes));
+        return c.contenido == Contenido::Texto ? c.bytes() : texto_no_guardado(c, fila, cifras_fila);
     }
+
+    // Apart, so that the ordinary case stays short.
+    [[nodiscard]] std::string_view texto_no_guardado(
+        const CeldaGuardada& c, int fila, CifrasFila& cifras_fila) const;
 
     [[nodiscard]] CeldaGuardada celda(int fila, int col) const {
         const LugarFila l = indice.busca(fila);
         return l.trozo->celda(l.i, col);
     }
 
-    bool escribe(int fila, int col, std::string_view texto);
-    void guarda(int fila, int col, std::string_view texto);
+    bool escribe(int fila, int col, std::string_view nuevo);
+    bool escribe_numero(int fila, std::string_view nuevo);
+    void guarda(int fila, int col, LugarFila l, const CeldaGuardada& vieja, std::string_view nuevo);
     void pon(int fila, int col, const CeldaGuardada& celda) {
-        const LugarFila l = indice.para_escribir(fila, celda.bytes.size());
+        const LugarFila l = indice.para_escribir(fila, celda.longitud);
         l.trozo->pon(l.i, col, celda);
     }
 
@@ -99,8 +101,7 @@ struct AlmacenCeldas::Interior {
     [[nodiscard]] std::span<const std::uint8_t> fila_con(
         std::span<const std::uint8_t> vieja, int col, std::span<const std::string_view> textos);
     bool numera(Trozo& t, int i, int fila);
-    void suelta_largos(int desde, int hasta, int col);
-    void suelta_en_fila(std::span<const std::uint8_t> fila, int col);
+    void suelta_largos(int desde, int hasta, int col1, int col2);
     [[nodiscard]] std::optional<std::int32_t> adorno(Adorno tipo, int fila, int col) const;
     bool pinta(Adorno tipo, int fila1, int col1, int fila2, int col2, std::optional<std::int32_t> valor);
     void filas_quitadas() {
@@ -112,12 +113,8 @@ AlmacenCeldas::AlmacenCeldas() : yo_(std::make_unique<Interior>()) {}
 
 AlmacenCeldas::~AlmacenCeldas() = default;
 
-int AlmacenCeldas::filas() const { return yo_->indice.filas(); }
-
-int AlmacenCeldas::columnas() const { return yo_->columnas; }
-
 void AlmacenCeldas::pon_filas(int n) {
-    const int hay = filas();
+    const int hay = filas_;
     if (n > hay)
         inserta(hay, n - hay);
     else
@@ -125,12 +122,12 @@ void AlmacenCeldas::pon_filas(int n) {
 }
 
 void AlmacenCeldas::pon_columnas(int n) {
-    if (n < yo_->columnas) {
-        yo_->suelta_largos(0, filas() - 1, n);
-        yo_->indice.recorre(0, filas() - 1, [n](Trozo& t, int, int, int) { t.quita_columnas(n); });
-        if (n == 0) yo_->sin_numero = {0, filas()};
+    if (n < columnas_) {
+        yo_->suelta_largos(0, filas_ - 1, n, columnas_);
+        yo_->indice.recorre(0, filas_ - 1, [n](Trozo& t, int, int, int) { t.quita_columnas(n); });
+        if (n == 0) yo_->sin_numero = {0, filas_};
     }
-    yo_->columnas = n;
+    columnas_ = n;
 }
 
 // Reading
@@ -140,8 +137,11 @@ std::string_view AlmacenCeldas::texto(int fila, int col) const {
 }
 
 void AlmacenCeldas::lee_fila(int fila, int col, std::span<std::string_view> textos) const {
+    if (textos.empty()) return;
+    textos.front() = texto(fila, col);
     const LugarFila l = yo_->indice.busca(fila);
-    for (std::string_view& t : textos) t = yo_->texto(l.trozo->celda(l.i, col++), fila, yo_->cifras);
+    CeldasDeFila celdas = l.trozo->celdas(l.i, col + 1);
+    for (std::string_view& t : textos.subspan(1)) t = yo_->texto(celdas.siguiente(), fila, yo_->cifras);
 }
 
 bool AlmacenCeldas::iguales(int fila1, int col1, int fila2, int col2) const {
@@ -157,34 +157,45 @@ bool AlmacenCeldas::pon_texto(int fila, int col, std::string_view texto) {
     return yo_->escribe(fila, col, texto);
 }
 
+std::string_view AlmacenCeldas::Interior::texto_no_guardado(
+    const CeldaGuardada& c, int fila, CifrasFila& cifras_fila) const {
+    return c.contenido == Contenido::Numero ? numero_de(fila, cifras_fila) : largos.texto(asa_de(c.bytes()));
+}
+
 bool AlmacenCeldas::Interior::escribe(int fila, int col, std::string_view nuevo) {
+    if (col == 0) return escribe_numero(fila, nuevo);
+    const LugarFila l = indice.busca(fila);
+    const CeldaGuardada vieja = l.trozo->celda(l.i, col);
+    if (texto(vieja, fila, cifras) == nuevo) return false;
+    guarda(fila, col, l, vieja, nuevo);
+    return true;
+}
+
+// Column 0. A row's own number is not stored as a text; row 0 stays numbered while its text is empty.
+bool AlmacenCeldas::Interior::escribe_numero(int fila, std::string_view nuevo) {
     CifrasFila cifras_fila;
-    const CeldaGuardada vieja = celda(fila, col);
+    const LugarFila l = indice.busca(fila);
+    const CeldaGuardada vieja = l.trozo->celda(l.i, 0);
     const bool igual = texto(vieja, fila, cifras_fila) == nuevo;
-    if (col != 0) {
-        if (!igual) guarda(fila, col, nuevo);
-        return !igual;
-    }
     const bool numero = fila > 0 && nuevo == numero_de(fila, cifras_fila);
     if (igual && (!numero || vieja.contenido == Contenido::Numero)) return false;
-    const bool largo = vieja.contenido == Contenido::Largo;
     if (!numero) {
-        guarda(fila, 0, nuevo);
+        guarda(fila, 0, l, vieja, nuevo);
         sin_numero.anade(fila, fila + 1);
     } else {
-        const std::uint32_t asa = largo ? asa_de(vieja.bytes) : 0;
+        const bool era_largo = vieja.contenido == Contenido::Largo;
+        const std::uint32_t asa_vieja = era_largo ? asa_de(vieja.bytes()) : 0;
         pon(fila, 0, {{}, Contenido::Numero});
-        if (largo) largos.suelta(asa);
+        if (era_largo) largos.suelta(asa_vieja);
     }
     return !igual;
 }
 
-// Stores a text as such. It may be a view of the chunk that is written.
-void AlmacenCeldas::Interior::guarda(int fila, int col, std::string_view nuevo) {
-    const LugarFila l = indice.busca(fila);
-    const CeldaGuardada vieja = l.trozo->celda(l.i, col);
+// Stores a text as such where `vieja` stands. It may be a view of the chunk that is written.
+void AlmacenCeldas::Interior::guarda(
+    int fila, int col, LugarFila l, const CeldaGuardada& vieja, std::string_view nuevo) {
     const bool era_largo = vieja.contenido == Contenido::Largo;
-    const std::uint32_t asa_vieja = era_largo ? asa_de(vieja.bytes) : 0;
+    const std::uint32_t asa_vieja = era_largo ? asa_de(vieja.bytes()) : 0;
     if (es_largo(nuevo)) {
         const std::uint32_t asa = largos.guarda(nuevo);
         std::array<char, BYTES_ASA> bytes{};
@@ -197,9 +208,9 @@ void AlmacenCeldas::Interior::guarda(int fila, int col, std::string_view nuevo) 
         }
     } else if (l.trozo->contiene(nuevo)) {
         const std::string copia(nuevo);
-        pon(fila, col, {copia});
+        pon(fila, col, {copia, Contenido::Texto});
     } else {
-        pon(fila, col, {nuevo});
+        pon(fila, col, {nuevo, Contenido::Texto});
     }
     if (era_largo) largos.suelta(asa_vieja);
 }
@@ -217,9 +228,9 @@ bool AlmacenCeldas::Interior::escribe_fila(int fila, int col, std::span<const st
     if (textos.empty()) return false;
     const LugarFila l = indice.busca(fila);
     const std::array<std::uint8_t, 1 + RELLENO> sin_textos{
-        l.trozo->numeradas() ? std::uint8_t{1} : std::uint8_t{0}};
+        l.trozo->numeradas() ? CabeceraFila::NUMERADA : std::uint8_t{0}};
     const auto vieja = l.trozo->sin_textos() ? std::span(sin_textos).first(1) : l.trozo->fila(l.i);
-    if (lee_cabecera(vieja.data()).largos || std::any_of(textos.begin(), textos.end(), es_largo)) {
+    if (lee_cabecera(vieja.data()).largos() || std::any_of(textos.begin(), textos.end(), es_largo)) {
         const std::vector<std::string> copias(textos.begin(), textos.end());
         bool cambia = false;
         for (const std::string& t : copias) cambia = escribe(fila, col++, t) || cambia;
@@ -245,7 +256,7 @@ std::span<const std::uint8_t> AlmacenCeldas::Interior::fila_con(
     const std::size_t antes = std::min(col1, tenia);
     const std::size_t despues = std::min(col2, tenia);
     const auto bytes_hasta = [&](std::size_t n) {
-        return suma_sencilla(longitudes, static_cast<std::uint32_t>(n));
+        return suma_bytes(longitudes, static_cast<std::uint32_t>(n), false);
     };
 
     std::size_t n = std::max(col2, tenia);
@@ -286,42 +297,40 @@ void AlmacenCeldas::inserta(int fila, int n) {
     if (n <= 0) return;
     yo_->indice.inserta(fila, n);
     yo_->sin_numero.inserta(fila, n);
+    filas_ += n;
 }
 
 void AlmacenCeldas::borra(int fila, int n) {
     if (n <= 0) return;
-    yo_->suelta_largos(fila, fila + n - 1, 0);
+    yo_->suelta_largos(fila, fila + n - 1, 0, columnas_);
     yo_->indice.borra(fila, n);
     yo_->sin_numero.borra(fila, n);
     yo_->filas_quitadas();
+    filas_ -= n;
 }
 
 void AlmacenCeldas::borra_varias(std::span<const int> filas) {
     if (yo_->largos.vivos() != 0)
-        for (const int fila : filas) yo_->suelta_largos(fila, fila, 0);
+        for (const int fila : filas) yo_->suelta_largos(fila, fila, 0, columnas_);
     yo_->indice.borra_varias(filas);
     yo_->sin_numero.borra(filas);
     yo_->filas_quitadas();
+    filas_ -= static_cast<int>(filas.size());
 }
 
-// Gives back the long texts of these rows from column `col` on.
-void AlmacenCeldas::Interior::suelta_largos(int desde, int hasta, int col) {
+// Gives back the long texts of these rows from column `col1` on, before `col2`.
+void AlmacenCeldas::Interior::suelta_largos(int desde, int hasta, int col1, int col2) {
     if (largos.vivos() == 0) return;
-    indice.recorre(desde, hasta, [this, col](const Trozo& t, int i1, int i2, int) {
-        for (int i = i1; i <= i2 && !t.sin_textos(); ++i) suelta_en_fila(t.fila(i), col);
+    indice.recorre(desde, hasta, [=, this](const Trozo& t, int i1, int i2, int) {
+        for (int i = i1; i <= i2; ++i) {
+            if (!t.hay_largos(i)) continue;
+            CeldasDeFila celdas = t.celdas(i, col1);
+            for (int col = col1; col < col2; ++col) {
+                const CeldaGuardada c = celdas.siguiente();
+                if (c.contenido == Contenido::Largo) largos.suelta(asa_de(c.bytes()));
+            }
+        }
     });
-}
-
-void AlmacenCeldas::Interior::suelta_en_fila(std::span<const std::uint8_t> fila, int col) {
-    const CabeceraFila c = lee_cabecera(fila.data());
-    if (!c.largos) return;
-    const std::uint8_t* const longitudes = fila.data() + c.bytes;
-    const char* texto = reinterpret_cast<const char*>(longitudes + c.columnas);
-    for (std::uint32_t k = 0; k < c.columnas; ++k) {
-        if (longitudes[k] == LARGO && k >= static_cast<std::uint32_t>(col))
-            largos.suelta(asa_de({texto, BYTES_ASA}));
-        texto += bytes_guardados(longitudes[k]);
-    }
 }
 
 FilasCambiadas AlmacenCeldas::numera() {
@@ -329,7 +338,7 @@ FilasCambiadas AlmacenCeldas::numera() {
     FilasCambiadas cambiadas;
     const int desde = yo.sin_numero.desde;
     const int hasta = yo.sin_numero.hasta - 1;
-    if (desde > hasta || yo.columnas == 0) return cambiadas;
+    if (desde > hasta || columnas_ == 0) return cambiadas;
     yo.indice.recorre(desde, hasta, [&](Trozo& t, int i1, int i2, int primera) {
         if (t.sin_textos()) {
             const int desde_fila = std::max(primera, 1);
@@ -349,8 +358,8 @@ FilasCambiadas AlmacenCeldas::numera() {
 // when it shows another text now.
 bool AlmacenCeldas::Interior::numera(Trozo& t, int i, int fila) {
     const CeldaGuardada vieja = t.celda(i, 0);
-    if (fila == 0 && !vieja.bytes.empty()) return false;
-    if (vieja.contenido == Contenido::Largo) largos.suelta(asa_de(vieja.bytes));
+    if (fila == 0 && !vieja.bytes().empty()) return false;
+    if (vieja.contenido == Contenido::Largo) largos.suelta(asa_de(vieja.bytes()));
     return t.numera(i) && fila != 0;
 }
 
@@ -411,7 +420,7 @@ bool AlmacenCeldas::hay_altos() const {
     using Altos = Interior::Altos;
     if (yo_->altos == Altos::Quiza) {
         yo_->altos = Altos::No;
-        yo_->indice.recorre(0, filas() - 1, [this](const Trozo& t, int, int, int) {
+        yo_->indice.recorre(0, filas_ - 1, [this](const Trozo& t, int, int, int) {
             if (t.adornos() && t.adornos()->tiene(Adorno::Alto)) yo_->altos = Altos::Si;
         });
     }

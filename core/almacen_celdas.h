@@ -45,8 +45,10 @@ public:
     AlmacenCeldas(const AlmacenCeldas&) = delete;
     AlmacenCeldas& operator=(const AlmacenCeldas&) = delete;
 
-    [[nodiscard]] int filas() const;
-    [[nodiscard]] int columnas() const;
+    [[nodiscard]] int filas() const { return filas_; }
+
+    [[nodiscard]] int columnas() const { return columnas_; }
+
     /// Grows with empty, unnumbered rows at the end or drops rows there. n >= 0.
     void pon_filas(int n);
     /// Grows with empty columns at the end or drops columns there. n >= 0.
@@ -100,6 +102,8 @@ public:
 
 private:
     struct Interior;
+    int filas_ = 0;
+    int columnas_ = 0;
     std::unique_ptr<Interior> yo_;
 };
 

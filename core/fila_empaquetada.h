@@ -23,10 +23,19 @@ inline constexpr std::uint32_t BYTES_ASA = 4;
 inline constexpr std::uint32_t RELLENO = 8;
 
 struct CabeceraFila {
+    static constexpr std::uint8_t NUMERADA = 1;
+    static constexpr std::uint8_t LARGOS = 2;
+    static constexpr std::uint8_t SIGUE = 128; ///< the count of columns goes on in the next byte
+
     std::uint32_t columnas = 0; ///< stored columns; those beyond are empty
     std::uint32_t bytes = 1; ///< of the header itself
-    bool numerada = false; ///< column 0 shows the row's own number; its text is not stored
-    bool largos = false; ///< some text of the row stands apart
+    std::uint8_t banderas = 0; ///< NUMERADA, LARGOS; the other bits mean nothing here
+
+    /// Column 0 shows the row's own number; its text is not stored.
+    [[nodiscard]] bool numerada() const { return (banderas & NUMERADA) != 0; }
+
+    /// Some text of the row stands apart.
+    [[nodiscard]] bool largos() const { return (banderas & LARGOS) != 0; }
 };
 
 /// Bytes of the header of a row that stores so many columns: 1 below 32 columns.
@@ -36,21 +45,18 @@ struct CabeceraFila {
     return bytes;
 }
 
+/// A header of any size.
+[[nodiscard]] CabeceraFila lee_cabecera_ancha(const std::uint8_t* p);
+
 [[nodiscard]] inline CabeceraFila lee_cabecera(const std::uint8_t* p) {
-    CabeceraFila c;
-    c.numerada = (p[0] & 1U) != 0;
-    c.largos = (p[0] & 2U) != 0;
-    c.columnas = (p[0] >> 2U) & 31U;
-    for (unsigned bits = 5; (p[c.bytes - 1] & 128U) != 0; bits += 7)
-        c.columnas |= (p[c.bytes++] & 127U) << bits;
-    return c;
+    if ((p[0] & CabeceraFila::SIGUE) != 0) return lee_cabecera_ancha(p);
+    return {static_cast<std::uint32_t>(p[0]) >> 2U, 1, p[0]};
 }
 
 /// Writes the header; `c.bytes` is not looked at. Returns the bytes written.
 inline std::uint32_t escribe_cabecera(std::uint8_t* p, const CabeceraFila& c) {
     std::uint32_t resto = c.columnas >> 5U;
-    const unsigned banderas = (c.numerada ? 1U : 0U) | (c.largos ? 2U : 0U);
-    p[0] = static_cast<std::uint8_t>(banderas | (c.columnas & 31U) << 2U | (resto != 0 ? 128U : 0U));
+    p[0] = static_cast<std::uint8_t>((c.banderas & 3U) | (c.columnas & 31U) << 2U | (resto != 0 ? 128U : 0U));
     std::uint32_t bytes = 1;
     for (; resto != 0; resto >>= 7U)
         p[bytes++] = static_cast<std::uint8_t>((resto & 127U) | (resto > 127U ? 128U : 0U));
@@ -62,36 +68,28 @@ inline std::uint32_t escribe_cabecera(std::uint8_t* p, const CabeceraFila& c) {
     return longitud == LARGO ? BYTES_ASA : longitud;
 }
 
-/// Sum of the first `n` length bytes, eight at a time; reads up to 7 bytes more than it adds.
-[[nodiscard]] inline std::uint32_t suma_sencilla(const std::uint8_t* longitudes, std::uint32_t n) {
+/// Sum of the first `n` length bytes, at most 7; reads 8.
+[[nodiscard]] inline std::uint32_t suma_pocas(const std::uint8_t* longitudes, std::uint32_t n) {
     std::uint32_t suma = 0;
     if constexpr (std::endian::native == std::endian::little) {
         constexpr std::uint64_t PARES = 0x00FF00FF00FF00FFU;
         constexpr std::uint64_t UNOS = 0x0001000100010001U;
-        const auto suma_ocho = [](std::uint64_t w) {
-            return static_cast<std::uint32_t>((((w & PARES) + ((w >> 8U) & PARES)) * UNOS) >> 48U);
-        };
         std::uint64_t w = 0;
-        for (; n >= 8; n -= 8, longitudes += 8) {
-            std::memcpy(&w, longitudes, 8);
-            suma += suma_ocho(w);
-        }
-        if (n != 0) {
-            std::memcpy(&w, longitudes, 8);
-            suma += suma_ocho(w << (64U - 8U * n));
-        }
+        std::memcpy(&w, longitudes, 8);
+        w = w << (56U - 8U * n) << 8U; // in two steps, as n may be 0
+        suma = static_cast<std::uint32_t>((((w & PARES) + ((w >> 8U) & PARES)) * UNOS) >> 48U);
     } else {
         while (n-- != 0) suma += *longitudes++;
     }
     return suma;
 }
 
-/// Bytes that the texts of the first `n` stored columns take. `largos`: the row's flag.
+/// Bytes that the texts of the first `n` stored columns take, for any row.
+[[nodiscard]] std::uint32_t suma_muchas(const std::uint8_t* longitudes, std::uint32_t n, bool largos);
+
+/// The same, quick for the first columns of a row without long texts (`largos`: the row's flag).
 [[nodiscard]] inline std::uint32_t suma_bytes(const std::uint8_t* longitudes, std::uint32_t n, bool largos) {
-    if (!largos) return suma_sencilla(longitudes, n);
-    std::uint32_t suma = 0;
-    while (n-- != 0) suma += bytes_guardados(*longitudes++);
-    return suma;
+    return n < 8 && !largos ? suma_pocas(longitudes, n) : suma_muchas(longitudes, n, largos);
 }
 
 } // namespace Qlt4_Tabla

@@ -64,12 +64,15 @@ bool caben_juntos(const Trozo& a, const Trozo& b) {
 
 } // namespace
 
+// The index of the chunk with row `fila`: the one after the last found, else by halving.
 std::size_t IndiceTrozos::busca_trozo(int fila) const {
-    const std::size_t k = ultimo_;
-    if (k + 2 < primeras_.size() && fila >= primeras_[k + 1] && fila < primeras_[k + 2])
-        return ultimo_ = k + 1;
-    const auto it = std::upper_bound(primeras_.begin(), primeras_.end(), fila);
-    return ultimo_ = static_cast<std::size_t>(it - primeras_.begin()) - 1;
+    std::size_t k = actual_.k + 1;
+    if (k >= trozos_.size() || fila < primeras_[k] || fila >= primeras_[k + 1])
+        k = static_cast<std::size_t>(
+                std::upper_bound(primeras_.begin(), primeras_.end(), fila) - primeras_.begin()) -
+            1;
+    actual_ = {primeras_[k], primeras_[k + 1], trozos_[k].get(), k};
+    return k;
 }
 
 // Changes of the index
@@ -80,18 +83,20 @@ void IndiceTrozos::anade(std::size_t k, int primera, std::unique_ptr<Trozo> troz
     reserva(trozos_, 1);
     primeras_.insert(en(primeras_, k), primera);
     trozos_.insert(en(trozos_, k), std::move(trozo));
+    olvida();
 }
 
 // Chunks `k1` to `k2` - 1 leave; the first rows behind them stay as they are.
 void IndiceTrozos::quita(std::size_t k1, std::size_t k2) {
     primeras_.erase(en(primeras_, k1), en(primeras_, k2));
     trozos_.erase(en(trozos_, k1), en(trozos_, k2));
-    ultimo_ = 0;
+    olvida();
 }
 
 // Chunk `k` and those behind it begin `n` rows later.
 void IndiceTrozos::desplaza(std::size_t k, int n) {
     for (; k < primeras_.size(); ++k) primeras_[k] += n;
+    olvida();
 }
 
 // Makes a chunk begin at `fila`; returns its index (the number of chunks at the end).
@@ -222,6 +227,7 @@ void IndiceTrozos::reparte(int desde, int hasta) {
         }
         reserva(primeras_, primeras.size());
         reserva(trozos_, trozos.size());
+        olvida();
         trozos_[k]->borra(FILAS_POR_TROZO, filas - FILAS_POR_TROZO);
         primeras_.insert(en(primeras_, k + 1), primeras.begin(), primeras.end());
         trozos_.insert(

@@ -3,7 +3,7 @@
 // chunks (core/trozo.h); what a text means is above it (core/almacen_celdas.h).
 //
 // The first rows of the chunks stand in one array of their own, so that a row inserted or removed moves
-// them in one short pass; the chunk used last is looked at first.
+// them in one short pass; the chunk found last is looked at first.
 #pragma once
 
 #include "core/trozo.h"
@@ -26,9 +26,8 @@ public:
     [[nodiscard]] int filas() const { return primeras_.back(); }
 
     [[nodiscard]] LugarFila busca(int fila) const {
-        std::size_t k = ultimo_;
-        if (fila < primeras_[k] || fila >= primeras_[k + 1]) k = busca_trozo(fila);
-        return {trozos_[k].get(), fila - primeras_[k]};
+        if (fila < actual_.primera || fila >= actual_.fin) busca_trozo(fila);
+        return {actual_.trozo, fila - actual_.primera};
     }
 
     /// The row in a packed chunk that may grow by so many bytes and stay of good size.
@@ -65,7 +64,17 @@ public:
     [[nodiscard]] std::size_t bytes() const;
 
 private:
-    [[nodiscard]] std::size_t busca_trozo(int fila) const;
+    // The chunk found last: rows `primera` and on, before `fin`; no rows after a change of the chunks.
+    struct Actual {
+        int primera = 0;
+        int fin = 0;
+        Trozo* trozo = nullptr;
+        std::size_t k = 0;
+    };
+
+    std::size_t busca_trozo(int fila) const;
+    void olvida() { actual_ = {}; }
+
     [[nodiscard]] LugarFila prepara(int fila, std::size_t mas);
     std::size_t corta(int fila);
     void anade(std::size_t k, int primera, std::unique_ptr<Trozo> trozo);
@@ -75,7 +84,7 @@ private:
 
     std::vector<int> primeras_ = {0}; // first row of each chunk, then the number of rows
     std::vector<std::unique_ptr<Trozo>> trozos_;
-    mutable std::size_t ultimo_ = 0; // the chunk found last
+    mutable Actual actual_;
 };
 
 } // namespace Qlt4_Tabla

@@ -26,6 +26,22 @@ std::string_view como_texto(const std::uint8_t* p, std::size_t n) {
 
 } // namespace
 
+CeldaGuardada Trozo::una_celda(int i, int col) const {
+    if (!datos_) return {{}, numeradas_ && col == 0 ? Contenido::Numero : Contenido::Texto};
+    if (col == 0 && lee_cabecera(datos_.get() + inicio(i)).numerada()) return {{}, Contenido::Numero};
+    return celdas(i, col).siguiente();
+}
+
+CeldasDeFila Trozo::celdas(int i, int col) const {
+    if (!datos_) return {};
+    const std::uint8_t* const p = datos_.get() + inicio(i);
+    const CabeceraFila c = lee_cabecera(p);
+    const std::uint32_t antes = std::min(static_cast<std::uint32_t>(col), c.columnas);
+    const std::uint8_t* const longitudes = p + c.bytes;
+    const std::uint8_t* const textos = longitudes + c.columnas;
+    return {longitudes + antes, c.columnas - antes, textos + suma_bytes(longitudes, antes, c.largos())};
+}
+
 bool Trozo::contiene(std::string_view texto) const {
     const std::string_view todo = como_texto(datos_.get(), datos_ ? cabida_ : 0);
     const std::less<> antes;
@@ -56,8 +72,7 @@ void Trozo::pon_cabida(std::uint32_t cabida) {
     cabida_ = cabida;
 }
 
-void Trozo::asegura(std::uint32_t mas) {
-    if (mas <= hueco()) return;
+void Trozo::crece(std::uint32_t mas) {
     if (mas > CABIDA_MAXIMA - MARGEN - BLOQUE - usados()) throw std::bad_alloc();
     pon_cabida(redondea(usados() + mas));
 }
@@ -67,8 +82,7 @@ void Trozo::encoge() {
     if (hueco() > usados() + 4 * BLOQUE) pon_cabida(redondea(usados() + BLOQUE / 2));
 }
 
-// The gap comes to stand before row `i`.
-void Trozo::mueve_hueco(int i) {
+void Trozo::lleva_hueco(int i) {
     const std::uint32_t ancho = hueco();
     std::uint8_t* const p = datos_.get();
     if (i > corte_) {
@@ -92,7 +106,7 @@ void Trozo::empaqueta() {
     corte_ = 0; // no row counts as placed while the run is made
     pon_cabida(redondea(n));
     for (std::uint32_t i = 0; i < n; ++i) inicio_[i] = i;
-    std::memset(datos_.get(), numeradas_ ? 1 : 0, n);
+    std::memset(datos_.get(), numeradas_ ? CabeceraFila::NUMERADA : 0, n);
     corte_ = filas_;
     hueco_ini_ = n;
     hueco_fin_ = cabida_;
@@ -102,37 +116,36 @@ void Trozo::empaqueta() {
 
 void Trozo::pon(int i, int col, const CeldaGuardada& celda) {
     const auto columna = static_cast<std::uint32_t>(col);
-    const auto bytes = static_cast<std::uint32_t>(celda.bytes.size());
+    const std::uint32_t bytes = celda.longitud;
     const auto longitud = celda.contenido == Contenido::Largo ? LARGO : static_cast<std::uint8_t>(bytes);
     const CabeceraFila c = lee_cabecera(datos_.get() + inicio(i));
     if (columna < c.columnas) {
         if (bytes == 0 && columna + 1 == c.columnas)
-            acorta(i, columna);
+            acorta(i, c, columna);
         else
-            sustituye(i, columna, celda.bytes, longitud);
+            sustituye(i, c, columna, celda.bytes(), longitud);
     } else if (bytes != 0) {
-        alarga(i, columna, celda.bytes, longitud);
+        alarga(i, c, columna, celda.bytes(), longitud);
     }
     std::uint8_t& banderas = datos_.get()[inicio(i)];
-    if (col == 0)
-        banderas = static_cast<std::uint8_t>((banderas & ~1U) | (celda.contenido == Contenido::Numero));
+    if (col == 0) banderas &= static_cast<std::uint8_t>(~CabeceraFila::NUMERADA);
+    if (celda.contenido == Contenido::Numero) banderas |= CabeceraFila::NUMERADA;
     if (longitud == LARGO)
-        banderas |= 2U;
-    else if (c.largos)
+        banderas |= CabeceraFila::LARGOS;
+    else if (c.largos())
         revisa_largos(i);
 }
 
-void Trozo::sustituye(int i, std::uint32_t col, std::string_view bytes, std::uint8_t longitud) {
+void Trozo::sustituye(
+    int i, const CabeceraFila& c, std::uint32_t col, std::string_view bytes, std::uint8_t longitud) {
     const auto nuevos = static_cast<std::uint32_t>(bytes.size());
-    const std::uint8_t* const fila = datos_.get() + inicio(i);
-    const CabeceraFila c = lee_cabecera(fila);
-    const std::uint32_t viejos = bytes_guardados(fila[c.bytes + col]);
+    const std::uint32_t viejos = bytes_guardados(datos_.get()[inicio(i) + c.bytes + col]);
     if (nuevos != viejos) {
         if (nuevos > viejos) asegura(nuevos - viejos);
         mueve_hueco(i + 1);
     }
     std::uint8_t* const longitudes = datos_.get() + inicio(i) + c.bytes;
-    std::uint8_t* const texto = longitudes + c.columnas + suma_bytes(longitudes, col, c.largos);
+    std::uint8_t* const texto = longitudes + c.columnas + suma_bytes(longitudes, col, c.largos());
     if (nuevos != viejos) {
         const std::uint8_t* const detras = texto + viejos;
         std::memmove(texto + nuevos, detras, static_cast<std::size_t>(datos_.get() + hueco_ini_ - detras));
@@ -144,35 +157,33 @@ void Trozo::sustituye(int i, std::uint32_t col, std::string_view bytes, std::uin
 }
 
 // The row comes to store columns up to `col`; its text is the last one.
-void Trozo::alarga(int i, std::uint32_t col, std::string_view bytes, std::uint8_t longitud) {
+void Trozo::alarga(int i, CabeceraFila c, std::uint32_t col, std::string_view bytes, std::uint8_t longitud) {
     const auto nuevos = static_cast<std::uint32_t>(bytes.size());
-    CabeceraFila c = lee_cabecera(datos_.get() + inicio(i));
-    const std::uint32_t mas = col + 1 - c.columnas + bytes_cabecera(col + 1) - c.bytes;
+    const std::uint32_t bytes_cab = bytes_cabecera(col + 1);
+    const std::uint32_t mas = col + 1 - c.columnas + bytes_cab - c.bytes;
     asegura(mas + nuevos);
     mueve_hueco(i + 1);
     std::uint8_t* const fila = datos_.get() + inicio(i);
     std::uint8_t* const textos = fila + c.bytes + c.columnas;
     const auto bytes_textos = static_cast<std::size_t>(datos_.get() + hueco_ini_ - textos);
     std::memmove(textos + mas, textos, bytes_textos);
-    if (bytes_cabecera(col + 1) != c.bytes)
-        std::memmove(fila + bytes_cabecera(col + 1), fila + c.bytes, c.columnas);
+    if (bytes_cab != c.bytes) std::memmove(fila + bytes_cab, fila + c.bytes, c.columnas);
     const std::uint32_t tenia = c.columnas;
     c.columnas = col + 1;
     std::uint8_t* const longitudes = fila + escribe_cabecera(fila, c);
-    std::memset(longitudes + tenia, 0, col - tenia);
+    std::fill(longitudes + tenia, longitudes + col, std::uint8_t{0});
     longitudes[col] = longitud;
     std::memcpy(textos + mas + bytes_textos, bytes.data(), nuevos);
     hueco_ini_ += mas + nuevos;
 }
 
 // The row comes to store `columnas` columns at most, fewer where the last of them are empty.
-void Trozo::acorta(int i, std::uint32_t columnas) {
+void Trozo::acorta(int i, CabeceraFila c, std::uint32_t columnas) {
     mueve_hueco(i + 1);
     std::uint8_t* const fila = datos_.get() + inicio(i);
-    CabeceraFila c = lee_cabecera(fila);
     std::uint8_t* const longitudes = fila + c.bytes;
     while (columnas != 0 && longitudes[columnas - 1] == 0) --columnas;
-    const std::uint32_t bytes_textos = suma_bytes(longitudes, columnas, c.largos);
+    const std::uint32_t bytes_textos = suma_bytes(longitudes, columnas, c.largos());
     const std::uint8_t* const textos = longitudes + c.columnas;
     c.columnas = columnas;
     std::memmove(fila + bytes_cabecera(columnas), longitudes, columnas);
@@ -185,10 +196,10 @@ void Trozo::acorta(int i, std::uint32_t columnas) {
 // The flag of long texts after one was taken away.
 void Trozo::revisa_largos(int i) {
     std::uint8_t* const fila = datos_.get() + inicio(i);
-    CabeceraFila c = lee_cabecera(fila);
+    const CabeceraFila c = lee_cabecera(fila);
     const std::uint8_t* const longitudes = fila + c.bytes;
-    c.largos = std::find(longitudes, longitudes + c.columnas, LARGO) != longitudes + c.columnas;
-    escribe_cabecera(fila, c);
+    const bool hay = std::find(longitudes, longitudes + c.columnas, LARGO) != longitudes + c.columnas;
+    if (!hay) fila[0] &= static_cast<std::uint8_t>(~CabeceraFila::LARGOS);
 }
 
 void Trozo::pon_fila(int i, std::span<const std::uint8_t> fila) {
@@ -207,7 +218,7 @@ std::span<const std::uint8_t> Trozo::fila(int i) const {
 
 bool Trozo::numera(int i) {
     const CabeceraFila c = lee_cabecera(datos_.get() + inicio(i));
-    if (c.numerada) return false;
+    if (c.numerada()) return false;
     pon(i, 0, {{}, Contenido::Numero});
     return true;
 }
@@ -218,8 +229,7 @@ void Trozo::inserta(int i, int n) {
     if (datos_) {
         asegura(static_cast<std::uint32_t>(n));
         mueve_hueco(i);
-        std::memmove(&inicio_[static_cast<std::size_t>(i + n)], &inicio_[static_cast<std::size_t>(i)],
-            static_cast<std::size_t>(filas_ - i) * sizeof inicio_[0]);
+        std::move_backward(inicio_.begin() + i, inicio_.begin() + filas_, inicio_.begin() + filas_ + n);
         std::memset(datos_.get() + hueco_ini_, 0, static_cast<std::size_t>(n));
         for (int j = i; j < i + n; ++j) inicio(j) = hueco_ini_++;
         corte_ = i + n;
@@ -232,8 +242,7 @@ void Trozo::borra(int i, int n) {
     if (datos_) {
         mueve_hueco(i);
         hueco_fin_ = i + n == filas_ ? cabida_ : inicio(i + n);
-        std::memmove(&inicio_[static_cast<std::size_t>(i)], &inicio_[static_cast<std::size_t>(i + n)],
-            static_cast<std::size_t>(filas_ - i - n) * sizeof inicio_[0]);
+        std::move(inicio_.begin() + i + n, inicio_.begin() + filas_, inicio_.begin() + i);
     }
     filas_ -= n;
     if (datos_) encoge();
@@ -249,8 +258,8 @@ void Trozo::quita_columnas(int n) {
     for (int i = 0; datos_ && i < filas_; ++i) {
         const CabeceraFila c = lee_cabecera(datos_.get() + inicio(i));
         if (c.columnas > columnas) {
-            acorta(i, columnas);
-            if (c.largos) revisa_largos(i);
+            acorta(i, c, columnas);
+            if (c.largos()) revisa_largos(i);
         }
         if (n == 0) datos_.get()[inicio(i)] = 0;
     }
@@ -301,8 +310,8 @@ void Trozo::absorbe(const Trozo& otro) {
 void Trozo::anexa_filas(const Trozo& otro) {
     mueve_hueco(filas_);
     if (otro.sin_textos())
-        std::memset(
-            datos_.get() + hueco_ini_, otro.numeradas_ ? 1 : 0, static_cast<std::size_t>(otro.filas_));
+        std::memset(datos_.get() + hueco_ini_, otro.numeradas_ ? CabeceraFila::NUMERADA : 0,
+            static_cast<std::size_t>(otro.filas_));
     for (int j = 0; j < otro.filas_; ++j) {
         inicio(filas_ + j) = hueco_ini_;
         const auto fila = otro.sin_textos() ? std::span<const std::uint8_t>() : otro.fila(j);

@@ -30,9 +30,42 @@ enum class Contenido {
     Numero, ///< column 0 only: the row's own number, without bytes
 };
 
+/// Small enough to be returned in registers.
 struct CeldaGuardada {
-    std::string_view bytes;
+    const char* inicio = nullptr;
+    std::uint32_t longitud = 0;
     Contenido contenido = Contenido::Texto;
+
+    CeldaGuardada() = default;
+
+    CeldaGuardada(std::string_view bytes, Contenido que)
+        : inicio(bytes.data()), longitud(static_cast<std::uint32_t>(bytes.size())), contenido(que) {}
+
+    [[nodiscard]] std::string_view bytes() const { return {inicio, longitud}; }
+};
+
+/// The cells of a row one after the other; those beyond the stored ones are empty. Column 0 only where the
+/// row is not numbered.
+class CeldasDeFila {
+public:
+    CeldasDeFila() = default;
+
+    CeldasDeFila(const std::uint8_t* longitudes, std::uint32_t n, const std::uint8_t* texto)
+        : longitud_(longitudes), fin_(longitudes + n), texto_(reinterpret_cast<const char*>(texto)) {}
+
+    CeldaGuardada siguiente() {
+        if (longitud_ == fin_) return {};
+        const std::uint8_t longitud = *longitud_++;
+        const std::uint32_t n = bytes_guardados(longitud);
+        const char* const texto = texto_;
+        texto_ += n;
+        return {{texto, n}, longitud == LARGO ? Contenido::Largo : Contenido::Texto};
+    }
+
+private:
+    const std::uint8_t* longitud_ = nullptr;
+    const std::uint8_t* fin_ = nullptr;
+    const char* texto_ = nullptr;
 };
 
 class Trozo {
@@ -58,6 +91,13 @@ public:
 
     /// The bytes stay in place until the chunk changes.
     [[nodiscard]] CeldaGuardada celda(int i, int col) const;
+    /// The cells of row `i` from column `col` on.
+    [[nodiscard]] CeldasDeFila celdas(int i, int col) const;
+    /// Does some text of the row stand apart?
+    [[nodiscard]] bool hay_largos(int i) const {
+        return datos_ && lee_cabecera(datos_.get() + inicio(i)).largos();
+    }
+
     /// Does the text lie inside the packed rows?
     [[nodiscard]] bool contiene(std::string_view texto) const;
 
@@ -65,7 +105,7 @@ public:
 
     /// Packs the rows of a chunk without texts (at most FILAS_POR_TROZO of them).
     void empaqueta();
-    /// Sets a cell of a packed chunk; `celda.bytes` lies outside of it. Column beyond the stored ones: the
+    /// Sets a cell of a packed chunk; `celda.bytes()` lies outside of it. Column beyond the stored ones: the
     /// row grows up to it.
     void pon(int i, int col, const CeldaGuardada& celda);
     /// Replaces a whole packed row by its bytes.
@@ -102,18 +142,32 @@ private:
 
     [[nodiscard]] std::uint32_t hueco() const { return hueco_fin_ - hueco_ini_; }
 
+    // Any cell; `celda` itself finds those of the first columns of an ordinary row.
+    [[nodiscard]] CeldaGuardada una_celda(int i, int col) const;
+
+    // Room for so many bytes in the gap.
+    void asegura(std::uint32_t mas) {
+        if (mas > hueco()) crece(mas);
+    }
+
+    // The gap comes to stand before row `i`.
+    void mueve_hueco(int i) {
+        if (i != corte_) lleva_hueco(i);
+    }
+
     [[nodiscard]] std::uint32_t& inicio(int i) { return inicio_[static_cast<std::size_t>(i)]; }
 
     [[nodiscard]] std::uint32_t inicio(int i) const { return inicio_[static_cast<std::size_t>(i)]; }
 
     [[nodiscard]] std::uint32_t fin(int i) const;
     void pon_cabida(std::uint32_t cabida);
-    void asegura(std::uint32_t mas);
+    void crece(std::uint32_t mas);
     void encoge();
-    void mueve_hueco(int i);
-    void sustituye(int i, std::uint32_t col, std::string_view bytes, std::uint8_t longitud);
-    void alarga(int i, std::uint32_t col, std::string_view bytes, std::uint8_t longitud);
-    void acorta(int i, std::uint32_t columnas);
+    void lleva_hueco(int i);
+    void sustituye(
+        int i, const CabeceraFila& c, std::uint32_t col, std::string_view bytes, std::uint8_t longitud);
+    void alarga(int i, CabeceraFila c, std::uint32_t col, std::string_view bytes, std::uint8_t longitud);
+    void acorta(int i, CabeceraFila c, std::uint32_t columnas);
     void revisa_largos(int i);
     void anexa_filas(const Trozo& otro);
     void quita_adornos_vacios();
@@ -130,17 +184,15 @@ private:
 };
 
 inline CeldaGuardada Trozo::celda(int i, int col) const {
-    if (!datos_) return {{}, numeradas_ && col == 0 ? Contenido::Numero : Contenido::Texto};
+    if (!datos_ || col < 1 || col > 7) return una_celda(i, col);
     const std::uint8_t* const p = datos_.get() + inicio(i);
-    const CabeceraFila c = lee_cabecera(p);
-    if (c.numerada && col == 0) return {{}, Contenido::Numero};
+    if ((p[0] & (CabeceraFila::LARGOS | CabeceraFila::SIGUE)) != 0) return una_celda(i, col);
     const auto columna = static_cast<std::uint32_t>(col);
-    if (columna >= c.columnas) return {};
-    const std::uint8_t* const longitudes = p + c.bytes;
-    const std::uint8_t longitud = longitudes[columna];
-    const std::uint8_t* const texto = longitudes + c.columnas + suma_bytes(longitudes, columna, c.largos);
-    return {{reinterpret_cast<const char*>(texto), bytes_guardados(longitud)},
-        longitud == LARGO ? Contenido::Largo : Contenido::Texto};
+    const std::uint32_t columnas = p[0] >> 2U;
+    if (columna >= columnas) return {};
+    const std::uint8_t* const longitudes = p + 1;
+    const std::uint8_t* const texto = longitudes + columnas + suma_pocas(longitudes, columna);
+    return {{reinterpret_cast<const char*>(texto), longitudes[columna]}, Contenido::Texto};
 }
 
 } // namespace Qlt4_Tabla
