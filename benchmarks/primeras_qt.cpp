@@ -30,7 +30,7 @@ constexpr int COL_REAL = 1; // 0-based among the data columns
 
 class Tabla {
 public:
-    Tabla() : tabla_(sin_registro(), plataforma_.eventos) {
+    Tabla() : tabla_(plataforma_.plataforma(vista_), plataforma_.eventos) {
         tabla_.Cols(COLUMNAS + 1);
         constexpr T_formato CLASES[] = {
             T_formato::Entero, T_formato::Real__, T_formato::Alfanm, T_formato::Alfanm, T_formato::Alfanm};
@@ -73,12 +73,7 @@ public:
     }
 
 private:
-    // The platform in memory, but for a view that records nothing: a record of each notice would be measured.
-    Plataforma sin_registro() {
-        const Plataforma p = plataforma_.plataforma();
-        return {vista_, p.marco, p.casilla, p.lista, p.mensajes, p.separador, p.pasos};
-    }
-
+    // A recording view would be measured too.
     VistaNula vista_;
     PlataformaMemoria plataforma_;
     Tabla0 tabla_;

@@ -85,8 +85,9 @@ void EventosMemoria::sucede(const std::string& evento) {
     if (al_suceder) al_suceder(evento);
 }
 
-Plataforma PlataformaMemoria::plataforma() {
-    return {vista, marco, casilla, lista, mensajes, separador, pasos, ajustes, ficheros, dialogo_fichero};
+Plataforma PlataformaMemoria::plataforma(VistaTablero& otra_vista) {
+    return {
+        otra_vista, marco, casilla, lista, mensajes, separador, pasos, ajustes, ficheros, dialogo_fichero};
 }
 
 } // namespace Qlt4_Tabla

@@ -183,7 +183,10 @@ struct PlataformaMemoria {
     EventosMemoria eventos{registro};
 
     /// The seams as a table takes them (the event sink is handed over apart: `eventos`).
-    [[nodiscard]] Plataforma plataforma();
+    [[nodiscard]] Plataforma plataforma() { return plataforma(vista); }
+
+    /// The same with another view, such as one that records nothing for a table of millions of cells.
+    [[nodiscard]] Plataforma plataforma(VistaTablero& otra_vista);
     /// The lines so far, which are then forgotten.
     Registro recoge() { return std::exchange(registro, {}); }
 };
