@@ -17,23 +17,23 @@
 namespace Qlt4_Tabla {
 
 ListaCelda::ListaCelda(VistaRejilla& vista)
-    : QComboBox(vista.viewport()), vista_(vista), label1_(vista.viewport()) {
+    : QComboBox(vista.viewport()), vista_(vista), label1_(new QLabel(vista.viewport())) {
     setObjectName(QStringLiteral("cobLista"));
-    label1_.setObjectName(QStringLiteral("label1"));
-    label1_.setAutoFillBackground(true);
-    label1_.setBackgroundRole(QPalette::Base);
+    label1_->setObjectName(QStringLiteral("label1"));
+    label1_->setAutoFillBackground(true);
+    label1_->setBackgroundRole(QPalette::Base);
     setFocusPolicy(Qt::ClickFocus);
     setInsertPolicy(QComboBox::NoInsert);
     view()->installEventFilter(this);
     view()->viewport()->installEventFilter(this);
-    label1_.hide();
+    label1_->hide();
     hide();
 }
 
 Mandos& ListaCelda::mandos() { return vista_.tabla().mandos(); }
 
 void ListaCelda::mueve(const QRect& celda) {
-    label1_.setGeometry(celda);
+    label1_->setGeometry(celda);
     // The list keeps its own height, centred on the cell.
     const int alto = std::max(celda.height(), minimumSizeHint().height());
     setGeometry(celda.x(), celda.center().y() - alto / 2, celda.width(), alto);
@@ -45,7 +45,7 @@ void ListaCelda::muestra(const QRect& celda, const QStringList& entradas, int el
     setCurrentIndex(elegida);
     setAccessibleName(lugar_de_celda(vista_.tabla(), vista_.tablero().Row(), vista_.tablero().Col()));
     mueve(celda);
-    label1_.show();
+    label1_->show();
     show();
     raise();
     setFocus(Qt::OtherFocusReason);
@@ -54,7 +54,7 @@ void ListaCelda::muestra(const QRect& celda, const QStringList& entradas, int el
 void ListaCelda::oculta() {
     hidePopup();
     hide();
-    label1_.hide();
+    label1_->hide();
 }
 
 bool ListaCelda::event(QEvent* e) {

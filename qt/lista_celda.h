@@ -36,7 +36,7 @@ private:
     [[nodiscard]] Mandos& mandos();
 
     VistaRejilla& vista_;
-    QLabel label1_;
+    QLabel* label1_; // the viewport's child, beside the list
 };
 
 } // namespace Qlt4_Tabla

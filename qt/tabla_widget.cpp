@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Builds table, seams and child widgets in the order they need each other, and lays them out.
 #include "qt/tabla_widget.h"
 
 #include "qt/accesible.h"
@@ -41,10 +42,10 @@ private:
 } // namespace
 
 struct TablaWidget::Interior {
-    explicit Interior(TablaWidget& w)
+    Interior(TablaWidget& w, const Sustituye& sustituye)
         : eventos(w),
           puertos(w),
-          tabla(puertos.plataforma(), eventos),
+          tabla(sustituye ? sustituye(puertos.plataforma()) : puertos.plataforma(), eventos),
           vista(new VistaRejilla(tabla, &w)),
           casilla(new Casilla(*vista)),
           lista(new ListaCelda(*vista)),
@@ -65,7 +66,10 @@ struct TablaWidget::Interior {
     QLabel* mensaje;
 };
 
-TablaWidget::TablaWidget(QWidget* padre) : QWidget(padre), yo_(std::make_unique<Interior>(*this)) {
+TablaWidget::TablaWidget(QWidget* padre) : TablaWidget(Sustituye(), padre) {}
+
+TablaWidget::TablaWidget(const Sustituye& sustituye, QWidget* padre)
+    : QWidget(padre), yo_(std::make_unique<Interior>(*this, sustituye)) {
     setFocusProxy(yo_->vista);
     hazlo_accesible(*this, *yo_->vista);
     yo_->numero_filas->setObjectName(QStringLiteral("labNumeroFilas"));

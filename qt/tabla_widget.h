@@ -17,6 +17,7 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -26,7 +27,12 @@ class TablaWidget : public QWidget {
     Q_OBJECT
 
 public:
+    /// A host may serve some seams itself, an undo store or its own message boxes: given the widget's, it
+    /// returns those that the table is to use. What it puts in must outlive the widget.
+    using Sustituye = std::function<Plataforma(const Plataforma&)>;
+
     explicit TablaWidget(QWidget* padre = nullptr);
+    explicit TablaWidget(const Sustituye& sustituye, QWidget* padre = nullptr);
     ~TablaWidget() override;
 
     [[nodiscard]] Tabla0& tabla();
