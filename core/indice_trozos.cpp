@@ -56,10 +56,12 @@ void borra_de(Trozo& t, int primera, std::span<const int> filas) {
     }
 }
 
+// Joined chunks stay well below the size at which they are cut again.
 bool caben_juntos(const Trozo& a, const Trozo& b) {
+    constexpr int FILAS = FILAS_POR_TROZO * 3 / 4;
+    constexpr std::uint32_t BYTES = Trozo::BYTES_BUENOS / 2;
     if (a.vacio() && b.vacio() && a.numeradas() == b.numeradas()) return true;
-    return a.filas() <= FILAS_POR_TROZO && b.filas() <= FILAS_POR_TROZO &&
-        a.filas() + b.filas() <= FILAS_POR_TROZO / 2 && a.usados() + b.usados() <= Trozo::BYTES_BUENOS / 2;
+    return a.filas() <= FILAS && b.filas() <= FILAS - a.filas() && a.usados() + b.usados() <= BYTES;
 }
 
 } // namespace

@@ -77,9 +77,9 @@ void Trozo::crece(std::uint32_t mas) {
     pon_cabida(redondea(usados() + mas));
 }
 
-// Gives memory back when far more is free than used.
+// Gives memory back when much more is free than growing by blocks leaves.
 void Trozo::encoge() {
-    if (hueco() > usados() + 4 * BLOQUE) pon_cabida(redondea(usados() + BLOQUE / 2));
+    if (hueco() > usados() / 2 + BLOQUE) pon_cabida(redondea(usados() + BLOQUE / 2));
 }
 
 void Trozo::lleva_hueco(int i) {

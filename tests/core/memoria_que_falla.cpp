@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+// memoria_que_falla: the replaced operators, in a file of their own so that no compiler looks through them.
+#include "tests/core/memoria_que_falla.h"
+
+#include <cstdlib>
+#include <new>
+
+namespace Qlt4_Tabla {
+namespace {
+
+long quedan = -1;
+
+} // namespace
+
+void quedan_asignaciones(long n) { quedan = n; }
+
+} // namespace Qlt4_Tabla
+
+void* operator new(std::size_t n) {
+    using Qlt4_Tabla::quedan;
+    void* const p = quedan == 0 ? nullptr : std::malloc(n == 0 ? 1 : n);
+    if (!p) throw std::bad_alloc();
+    if (quedan > 0) --quedan;
+    return p;
+}
+
+void* operator new[](std::size_t n) { return operator new(n); }
+
+void operator delete(void* p) noexcept { std::free(p); }
+
+void operator delete[](void* p) noexcept { std::free(p); }
+
+void operator delete(void* p, std::size_t) noexcept { std::free(p); }
+
+void operator delete[](void* p, std::size_t) noexcept { std::free(p); }
