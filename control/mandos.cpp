@@ -142,7 +142,7 @@ void Mandos::rueda(int signo) {
 
 void Mandos::arrastra_borde(int col, int ancho) {
     if (col < 0 || col >= e_.tablero.Cols()) return;
-    cambia_vista([&] { e_.tablero.ColWidth(col, std::max(0, ancho)); });
+    cambia_vista([&] { e_.tablero.ColWidth(col, std::clamp(ancho, 0, MAX_ANCHO_TWIPS)); });
 }
 
 int Mandos::tecla_casilla(int KeyAscii) {

@@ -38,7 +38,7 @@ public:
     void doble_clic(int x, int y);
     void rueda(int signo);
 
-    /// The user drags the right edge of a column: the grid's width follows (less than 0 counts as 0); formats
+    /// The user drags the right edge of a column: the grid's width follows, from 0 to MAX_ANCHO_TWIPS; formats
     /// take it over later. No such column: nothing.
     void arrastra_borde(int col, int ancho);
 

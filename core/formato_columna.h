@@ -14,6 +14,8 @@ namespace Qlt4_Tabla {
 inline constexpr int MAX_COLUMNAS = 26;
 /// Grid width of one unit of `Longitud`, in twips.
 inline constexpr int TWIPS_POR_UNIDAD = 120;
+/// The widest column that a format can hold: its width in twips is formed in 16 bits.
+inline constexpr int MAX_ANCHO_TWIPS = 32767 / TWIPS_POR_UNIDAD * TWIPS_POR_UNIDAD;
 /// The background of an unlocked header cell: the system's colour of button faces, not an RGB value.
 inline constexpr std::int32_t COLOR_CARA_BOTON = static_cast<std::int32_t>(0x8000000FU);
 /// The background of a locked column's header cell, 0x00BBGGRR.
