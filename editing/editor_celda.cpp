@@ -95,7 +95,7 @@ int EditorCelda::filtra(int KeyAscii) {
     if (filtrado.reescrito) {
         const int hasta_el_final = longitud(texto) - caja.cursor();
         caja.pon_texto(filtrado.texto);
-        caja.selecciona(std::max(0, longitud(filtrado.texto) - hasta_el_final), 0);
+        caja.selecciona(longitud(filtrado.texto) - hasta_el_final, 0);
     }
     return filtrado.KeyAscii;
 }

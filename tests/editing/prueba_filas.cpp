@@ -14,7 +14,6 @@ namespace Qlt4_Tabla {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 class PruebaFilas : public MesaEdicion {
 protected:

@@ -128,6 +128,13 @@ TEST_F(PruebaMandos, soltar_tras_un_doble_clic_no_es_un_clic) {
     EXPECT_EQ(t().RowSel(), 2);
 }
 
+TEST_F(PruebaMandos, un_doble_clic_acaba_el_arrastre_que_perdio_su_final) {
+    m().raton_abajo(x(2), y(2), Boton::Izquierdo, {});
+    m().doble_clic(x(2), y(2));
+    m().raton_mueve(x(3), y(3));
+    EXPECT_EQ(t().RowSel(), 2);
+}
+
 TEST_F(PruebaMandos, pulsar_donde_la_confirmacion_quito_la_fila_no_selecciona) {
     m().tecla_pulsada('a');
     p.eventos.al_suceder = [&](std::string_view evento) {
@@ -140,6 +147,7 @@ TEST_F(PruebaMandos, pulsar_donde_la_confirmacion_quito_la_fila_no_selecciona) {
     EXPECT_EQ(t().Col(), 1);
     EXPECT_EQ(t().ColSel(), 1);
     EXPECT_FALSE(m().editor().abierto());
+    EXPECT_THAT(p.registro, ElementsAre("captura", "CambiaCasilla", "propiedad Rows"));
 }
 
 TEST_F(PruebaMandos, varios_caracteres_de_una_vez_van_a_la_misma_casilla) {

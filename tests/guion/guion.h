@@ -12,8 +12,8 @@
 //     > SelChange
 //     ? celda 1 1 = 12.500
 //
-// The words are in docs-like tables of ejecucion.cpp (host, user) and preguntas.cpp. Free of any test
-// library: failures are texts "file:line: what".
+// The words stand in pasos.h. `cuando EVENT STEP` lets the host do a step inside the next such event.
+// Free of any test library: failures are texts "file:line: what".
 #pragma once
 
 #include "tests/guion/conductor.h"
