@@ -29,15 +29,6 @@ void pon_si_cero(std::int16_t& campo, std::int16_t valor) {
     if (campo == 0) campo = valor;
 }
 
-void da_formato_inicial(EstadoTabla& e, int col) {
-    T_FormatoColumna& f = formato(e, col);
-    if (!f.Nombre.empty()) return;
-    f.Nombre = std::string(textos::columna_sin_nombre) + numero_a_texto(col);
-    pon_si_cero(f.Decimales, DECIMALES_NUEVA);
-    pon_si_cero(f.Formato, FORMATO_NUEVA);
-    pon_si_cero(f.Longitud, LONGITUD_NUEVA);
-}
-
 } // namespace
 
 void Width(EstadoTabla& e, const Variante& valor) {
@@ -95,6 +86,15 @@ void Cols(EstadoTabla& e, std::int32_t n) {
             for (int col = antes; col < n; ++col) da_formato_inicial(e, col);
     }
     e.plataforma.marco.propiedad_cambiada("Cols");
+}
+
+void da_formato_inicial(EstadoTabla& e, int col) {
+    T_FormatoColumna& f = formato(e, col);
+    if (!f.Nombre.empty()) return;
+    f.Nombre = std::string(textos::columna_sin_nombre) + numero_a_texto(col);
+    pon_si_cero(f.Decimales, DECIMALES_NUEVA);
+    pon_si_cero(f.Formato, FORMATO_NUEVA);
+    pon_si_cero(f.Longitud, LONGITUD_NUEVA);
 }
 
 void Clear(EstadoTabla& e) { e.tablero.Rows(1); }

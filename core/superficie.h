@@ -34,6 +34,9 @@ void lleva_celda_a_datos(Tablero& t);
 /// and, where they are 0, 3 decimals, text and 10 units (working formats only; nothing is formatted).
 /// Below 1: the count stays and only the property notice is given.
 void Cols(EstadoTabla& e, std::int32_t n);
+/// What `Cols` gives a column that is added without a name; a column with a name is left. Error 9 outside
+/// 0..25.
+void da_formato_inicial(EstadoTabla& e, int col);
 /// Only the header row remains.
 void Clear(EstadoTabla& e);
 /// Merge mode; other values than 0 to 3 are ignored.

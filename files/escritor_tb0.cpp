@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: MIT
+// The record goes straight into one block that grows by half: files/escritor_tb0.h.
+#include "files/escritor_tb0.h"
+
+#include "base/error.h"
+#include "files/formato_tb0.h"
+#include "files/texto_1252.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <span>
+#include <utility>
+
+namespace Qlt4_Tabla {
+
+namespace {
+
+class Escritor {
+public:
+    /// Room for so many bytes more, which the calls below then take without asking.
+    void asegura(std::size_t mas) {
+        const std::size_t hacen_falta = usados_ + mas;
+        if (hacen_falta <= bytes_.capacity()) return;
+        bytes_.reserve(std::max(hacen_falta, bytes_.capacity() + bytes_.capacity() / 2));
+    }
+
+    void pon16(std::uint16_t n) {
+        char* const p = sitio();
+        p[0] = static_cast<char>(n & 0xFFU);
+        p[1] = static_cast<char>(n >> 8U);
+        usados_ += 2;
+    }
+
+    void pon32(std::int32_t con_signo) {
+        const auto n = static_cast<std::uint32_t>(con_signo);
+        pon16(static_cast<std::uint16_t>(n & 0xFFFFU));
+        pon16(static_cast<std::uint16_t>(n >> 16U));
+    }
+
+    /// Takes up to BYTES_LONGITUD and the text's own size.
+    void pon_texto(std::string_view texto) {
+        const std::size_t n = a_1252(texto, sitio() + tb0::BYTES_LONGITUD);
+        if (n > tb0::MAX_TEXTO) lanza(NumError::LlamadaNoValida);
+        pon16(static_cast<std::uint16_t>(n));
+        usados_ += n;
+    }
+
+    void pon_matriz(std::int32_t elementos) {
+        pon16(static_cast<std::uint16_t>(tb0::DIMENSIONES));
+        pon32(elementos);
+        pon32(tb0::LIMITE_INFERIOR);
+    }
+
+    [[nodiscard]] Bytes acaba() && {
+        bytes_.resize(usados_);
+        return std::move(bytes_);
+    }
+
+private:
+    [[nodiscard]] char* sitio() { return bytes_.data() + usados_; }
+
+    Bytes bytes_;
+    std::size_t usados_ = 0;
+};
+
+void pon_con_sitio(Escritor& e, std::string_view texto) {
+    e.asegura(tb0::BYTES_LONGITUD + texto.size());
+    e.pon_texto(texto);
+}
+
+void pon_fila(Escritor& e, std::span<const std::string_view> textos) {
+    std::size_t bytes = tb0::bytes_fila_minima(textos.size());
+    for (const std::string_view t : textos) bytes += t.size();
+    e.asegura(bytes);
+    e.pon_matriz(static_cast<std::int32_t>(textos.size()));
+    for (const std::string_view t : textos) e.pon_texto(t);
+}
+
+void pon_formato(Escritor& e, const T_FormatoColumna& f) {
+    pon_con_sitio(e, f.Nombre);
+    e.asegura(tb0::BYTES_FORMATO);
+    for (const bool b : {f.Invisible, f.Bloqueada})
+        e.pon16(b ? static_cast<std::uint16_t>(tb0::VERDADERO) : std::uint16_t{0});
+    for (const std::int16_t n : {f.Longitud, f.Formato, f.Decimales, f.Alineacion, f.Accion})
+        e.pon16(static_cast<std::uint16_t>(n));
+}
+
+} // namespace
+
+Bytes escribe_tb0(const Tablero& tablero, std::string_view subtitulo, const T_FormatoColumna& formato25) {
+    const int filas = tablero.Rows();
+    const int columnas = tablero.Cols();
+    if (filas < 1 || columnas < 1 || columnas > MAX_COLUMNAS) lanza(NumError::Subindice);
+
+    Escritor e;
+    pon_con_sitio(e, subtitulo);
+    e.asegura(2 * tb0::BYTES_CUENTA + tb0::BYTES_MATRIZ);
+    e.pon32(columnas - 1);
+    e.pon32(filas - 1);
+    e.pon_matriz(filas);
+    std::array<std::string_view, MAX_COLUMNAS> celdas;
+    const std::span fila_entera(celdas.data(), static_cast<std::size_t>(columnas));
+    for (int fila = 0; fila < filas; ++fila) {
+        tablero.almacen().lee_fila(fila, 0, fila_entera);
+        pon_fila(e, fila_entera);
+    }
+    const T_FormatoColumna vacio;
+    for (std::size_t i = 0; i < tb0::FORMATOS; ++i)
+        pon_formato(e, i == tb0::FORMATO_GUARDADO ? formato25 : vacio);
+    return std::move(e).acaba();
+}
+
+} // namespace Qlt4_Tabla

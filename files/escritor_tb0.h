@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+// The record of a table as bytes. The bytes: docs/formato_tb0.md; back again: files/lector_tb0.h.
+#pragma once
+
+#include "base/bytes.h"
+#include "core/formato_columna.h"
+#include "core/tablero.h"
+
+#include <string_view>
+
+namespace Qlt4_Tabla {
+
+/// The whole record: every cell of the grid, header and row numbers included, and the format of column 25.
+/// Error 9: more than 26 columns, no column or no row; error 5: a text of more than 65,535 bytes.
+[[nodiscard]] Bytes escribe_tb0(
+    const Tablero& tablero, std::string_view subtitulo, const T_FormatoColumna& formato25);
+
+} // namespace Qlt4_Tabla

@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: MIT
+// The road between the grid and the bytes of a file: files/tabla_fichero.h.
+#include "files/tabla_fichero.h"
+
+#include "base/utf8.h"
+#include "core/formatos.h"
+#include "core/numeracion.h"
+#include "core/reloj_de_arena.h"
+#include "core/superficie.h"
+#include "files/escritor_tb0.h"
+#include "files/lector_tb0.h"
+#include "files/texto_1252.h"
+#include "files/textos.h"
+
+#include <algorithm>
+#include <variant>
+
+namespace Qlt4_Tabla {
+
+namespace {
+
+struct Leido {
+    Bytes bytes;
+    RegistroTb0 registro;
+};
+
+Leido lee_y_examina(const EstadoTabla& e, std::string_view nombre) {
+    Leido leido;
+    leido.bytes = e.plataforma.ficheros.lee(nombre);
+    auto examen = examina_tb0(leido.bytes.vista());
+    if (const auto* const fallo = std::get_if<FalloTb0>(&examen)) lanza(fallo->numero());
+    leido.registro = std::get<RegistroTb0>(std::move(examen));
+    if (std::int64_t{leido.registro.filas} * leido.registro.columnas > MAX_CELDAS)
+        lanza(NumError::SinMemoria);
+    return leido;
+}
+
+/// A name as it stands in a file, without blanks around it.
+std::string en_fichero(std::string_view nombre) {
+    return std::string(utf8::sin_blancos(de_1252(a_1252(nombre))));
+}
+
+// What the table looked like does not come back with it, so that these can be seen at all.
+void da_formato_a_desconocidas(EstadoTabla& e) {
+    static const T_FormatoColumna NUNCA_DADO;
+    const int columnas = std::min(e.tablero.Cols(), MAX_COLUMNAS);
+    for (int col = 1; col < columnas; ++col) {
+        const auto i = static_cast<std::size_t>(col);
+        if (e.Formatos[i] == NUNCA_DADO && e.Formatos_por_defecto[i] == NUNCA_DADO)
+            da_formato_inicial(e, col);
+    }
+}
+
+/// Every row gets its own number, whatever stands in column 0 of the file.
+void pon_celdas(Tablero& t, const Leido& leido) {
+    FilasTb0 filas(leido.bytes.vista(), leido.registro);
+    t.pon_fila(0, 0, filas.siguiente());
+    Numera_Filas(t);
+    if (leido.registro.columnas == 1) return;
+    for (int fila = 1; fila < leido.registro.filas; ++fila) t.pon_fila(fila, 1, filas.siguiente().subspan(1));
+}
+
+class Redibujo {
+public:
+    explicit Redibujo(Tablero& t) : tablero_(t) { tablero_.Redraw(false); }
+
+    ~Redibujo() { tablero_.Redraw(true); }
+
+    Redibujo(const Redibujo&) = delete;
+    Redibujo& operator=(const Redibujo&) = delete;
+
+private:
+    Tablero& tablero_;
+};
+
+void pon_en_tabla(EstadoTabla& e, const Leido& leido) {
+    Tablero& t = e.tablero;
+    const Redibujo redibujo(t);
+    e.Formatos[tb0::FORMATO_GUARDADO] = leido.registro.formatos[tb0::FORMATO_GUARDADO];
+    t.Rows(1);
+    t.Cols(leido.registro.columnas);
+    t.Rows(leido.registro.filas);
+    da_formato_a_desconocidas(e);
+    pon_celdas(t, leido);
+    const int fila = std::min(1, t.Rows() - 1);
+    const int col = std::min(1, t.Cols() - 1);
+    t.selecciona(fila, col, fila, col);
+    t.desplazamiento(0);
+    e.Modificado = 0;
+    termina_mensaje(e);
+    Tablero_establece_Formato(e);
+}
+
+std::string prefijo(const EstadoTabla& e, std::string_view que) {
+    std::string texto(que);
+    texto += e.nombres.subtitulo();
+    texto += textos::fin_de_linea;
+    texto += textos::numero_de_error;
+    return texto;
+}
+
+} // namespace
+
+void lee_tabla(EstadoTabla& e, std::string_view nombre, const std::function<void()>& al_cambiar) {
+    const RelojDeArena reloj(e.plataforma.mensajes);
+    const Leido leido = lee_y_examina(e, nombre);
+    al_cambiar();
+    pon_en_tabla(e, leido);
+}
+
+void lee_tabla_propia(EstadoTabla& e, std::string_view nombre, const std::function<void()>& al_cambiar) {
+    {
+        const RelojDeArena reloj(e.plataforma.mensajes);
+        const Leido leido = lee_y_examina(e, nombre);
+        // Compared as a file can hold it, so that a table always knows what it wrote itself.
+        if (utf8::sin_blancos(leido.registro.subtitulo) == en_fichero(e.nombres.subtitulo())) {
+            al_cambiar();
+            return pon_en_tabla(e, leido);
+        }
+    }
+    std::string texto(textos::el_fichero);
+    texto += nombre;
+    texto += textos::fin_de_linea;
+    texto += textos::no_es;
+    texto += e.nombres.subtitulo();
+    e.plataforma.mensajes.mensaje(texto, EstiloMensaje::Simple, {});
+}
+
+void graba_tabla(EstadoTabla& e, std::string_view nombre) {
+    const RelojDeArena reloj(e.plataforma.mensajes);
+    const Bytes bytes = escribe_tb0(e.tablero, e.nombres.subtitulo(), e.Formatos[tb0::FORMATO_GUARDADO]);
+    e.plataforma.ficheros.escribe_al_inicio(nombre, bytes.vista());
+    e.Modificado = 0;
+}
+
+std::string prefijo_al_leer(const EstadoTabla& e) { return prefijo(e, textos::error_al_leer); }
+
+std::string prefijo_al_guardar(const EstadoTabla& e) { return prefijo(e, textos::error_al_guardar); }
+
+} // namespace Qlt4_Tabla

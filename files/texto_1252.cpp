@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+// The texts that are not all ASCII: files/texto_1252.h.
+#include "files/texto_1252.h"
+
+#include "base/pagina1252.h"
+#include "base/utf8.h"
+
+namespace Qlt4_Tabla {
+
+namespace {
+
+constexpr char SIN_CODIGO = '?';
+constexpr unsigned char PRIMERO_NO_ASCII = 0x80;
+
+} // namespace
+
+bool es_ascii(std::string_view texto) {
+    constexpr std::uint64_t ALTOS = 0x8080808080808080U;
+    std::uint64_t suma = 0;
+    std::uint64_t w = 0;
+    std::size_t i = 0;
+    for (; i + 8 <= texto.size(); i += 8) {
+        std::memcpy(&w, texto.data() + i, 8);
+        suma |= w;
+    }
+    for (; i < texto.size(); ++i) suma |= static_cast<unsigned char>(texto[i]);
+    return (suma & ALTOS) == 0;
+}
+
+std::size_t a_1252(std::string_view texto, char* destino) {
+    if (copia_ascii(destino, texto.data(), texto.size())) return texto.size();
+    char* p = destino;
+    for (std::size_t pos = 0; pos < texto.size();) {
+        const utf8::Caracter c = utf8::decodifica(texto, pos);
+        const auto codigo = c.valido ? codigo_1252(c.punto) : std::nullopt;
+        *p++ = codigo ? static_cast<char>(*codigo) : SIN_CODIGO;
+        pos += c.bytes;
+    }
+    return static_cast<std::size_t>(p - destino);
+}
+
+std::string a_1252(std::string_view texto) {
+    std::string bytes(texto.size(), '\0');
+    bytes.resize(a_1252(texto, bytes.data()));
+    return bytes;
+}
+
+void de_1252(std::string_view bytes, std::string& destino) {
+    for (const char c : bytes) {
+        const auto codigo = static_cast<unsigned char>(c);
+        if (codigo < PRIMERO_NO_ASCII)
+            destino += c;
+        else
+            utf8::codifica(punto_de_1252(codigo), destino);
+    }
+}
+
+std::string de_1252(std::string_view bytes) {
+    std::string texto;
+    texto.reserve(bytes.size());
+    de_1252(bytes, texto);
+    return texto;
+}
+
+} // namespace Qlt4_Tabla

@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: MIT
+// The record byte for byte: small tables written out by hand beside what is written, and read back.
+#include "files/escritor_tb0.h"
+#include "files/lector_tb0.h"
+#include "tests/core/mesa.h"
+#include "tests/files/bytes_a_mano.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace Qlt4_Tabla {
+
+namespace {
+
+class PruebaEscritor : public testing::Test {
+protected:
+    std::string escrito(std::string_view subtitulo) {
+        return std::string(escribe_tb0(m.t(), subtitulo, m.e.Formatos[25]).vista());
+    }
+
+    int error_al_escribir() {
+        try {
+            static_cast<void>(escribe_tb0(m.t(), "", {}));
+        } catch (const Error& e) {
+            return e.numero();
+        }
+        return 0;
+    }
+
+    Mesa m;
+};
+
+TEST_F(PruebaEscritor, una_tabla_de_una_celda) {
+    m.t().Cols(1);
+    m.t().Rows(1);
+    EXPECT_EQ(en_hexadecimal(escrito("Ejes")),
+        en_hexadecimal(bytes("04 00 'Ejes'" // subtitle
+                             " 00 00 00 00  00 00 00 00" // last column, last row
+                             " 01 00  01 00 00 00  00 00 00 00" // one dimension, one row, from 0
+                             " 01 00  01 00 00 00  00 00 00 00  00 00" // its one cell, empty
+                             " 00*416"))); // 26 formats of 16 bytes
+}
+
+TEST_F(PruebaEscritor, filas_columnas_letras_y_el_formato_25) {
+    m.pon_tamano(3, 2);
+    m.t().TextMatrix(0, 1, "Año");
+    m.t().TextMatrix(0, 2, "Precio €");
+    m.t().TextMatrix(1, 1, "7");
+    m.t().TextMatrix(1, 2, "Ω");
+    m.e.Formatos[25] = {.Nombre = "Z",
+        .Invisible = true,
+        .Longitud = 10,
+        .Formato = 2,
+        .Decimales = 3,
+        .Alineacion = 2,
+        .Accion = -1};
+    m.e.Formatos[3].Nombre = "not written";
+    EXPECT_EQ(en_hexadecimal(escrito("Café")),
+        en_hexadecimal(bytes("04 00 'Caf' E9"
+                             " 02 00 00 00  01 00 00 00"
+                             " 01 00  02 00 00 00  00 00 00 00"
+                             " 01 00  03 00 00 00  00 00 00 00  00 00"
+                             " 03 00 'A' F1 'o'  08 00 'Precio' 20 80"
+                             " 01 00  03 00 00 00  00 00 00 00  01 00 '1'  01 00 '7'  01 00 '?'"
+                             " 00*400" // 25 empty formats
+                             " 01 00 'Z' FF FF 00 00 0A 00 02 00 03 00 02 00 FF FF")));
+}
+
+TEST_F(PruebaEscritor, tres_filas_y_cuatro_columnas_de_datos) {
+    m.pon_tamano(5, 4);
+    const auto examen = examina_tb0(escrito("S"));
+    const auto& r = std::get<RegistroTb0>(examen);
+    EXPECT_EQ(r.filas, 4);
+    EXPECT_EQ(r.columnas, 5);
+    EXPECT_EQ(r.bytes, escrito("S").size());
+}
+
+TEST_F(PruebaEscritor, el_texto_mas_largo_y_uno_de_mas) {
+    m.pon_tamano(2, 2);
+    m.t().TextMatrix(1, 1, std::string(65535, 'x'));
+    EXPECT_EQ(error_al_escribir(), 0);
+    m.t().TextMatrix(1, 1, std::string(65536, 'x'));
+    EXPECT_EQ(error_al_escribir(), 5);
+}
+
+TEST_F(PruebaEscritor, la_longitud_es_la_de_los_bytes_escritos) {
+    std::string enes;
+    for (int i = 0; i < 65535; ++i) enes += "ñ"; // 131,070 bytes in memory, 65,535 in the file
+    m.pon_tamano(2, 2);
+    m.t().TextMatrix(1, 1, enes);
+    EXPECT_EQ(error_al_escribir(), 0);
+    m.e.Formatos[25].Nombre = std::string(70000, 'x');
+    EXPECT_THROW(escrito("S"), Error);
+}
+
+TEST_F(PruebaEscritor, lo_que_no_se_podria_leer_no_se_escribe) {
+    EXPECT_EQ(error_al_escribir(), 9); // no rows, no columns
+    m.pon_tamano(26, 2);
+    EXPECT_EQ(error_al_escribir(), 0);
+    m.t().Cols(27);
+    EXPECT_EQ(error_al_escribir(), 9);
+}
+
+TEST_F(PruebaEscritor, muchas_filas_de_todos_los_largos_vuelven_iguales) {
+    m.pon_tamano(26, 300);
+    for (int fila = 0; fila < 300; ++fila)
+        for (int col = 1; col < 26; ++col)
+            m.t().TextMatrix(fila, col, std::string(static_cast<std::size_t>((fila * col) % 400), 'a'));
+    const std::string todo = escrito("S");
+    const auto r = std::get<RegistroTb0>(examina_tb0(todo));
+    FilasTb0 filas(todo, r);
+    for (int fila = 0; fila < 300; ++fila) {
+        const auto textos = filas.siguiente();
+        ASSERT_EQ(textos[0], fila == 0 ? "" : std::to_string(fila));
+        for (int col = 1; col < 26; ++col)
+            ASSERT_EQ(textos[static_cast<std::size_t>(col)], m.t().TextMatrix(fila, col));
+    }
+}
+
+} // namespace
+
+} // namespace Qlt4_Tabla
