@@ -6,6 +6,7 @@
 #include "base/numeros.h"
 #include "colours/paleta.h"
 #include "colours/textos.h"
+#include "core/redibujo_suspendido.h"
 
 #include <algorithm>
 #include <optional>
@@ -14,21 +15,6 @@
 namespace Qlt4_Tabla {
 
 namespace {
-
-// Suspends the grid's notices and gives back the switch as it was.
-class RedibujoSuspendido {
-public:
-    explicit RedibujoSuspendido(Tablero& t) : t_(t), antes_(t.Redraw()) { t_.Redraw(false); }
-
-    ~RedibujoSuspendido() { t_.Redraw(antes_); }
-
-    RedibujoSuspendido(const RedibujoSuspendido&) = delete;
-    RedibujoSuspendido& operator=(const RedibujoSuspendido&) = delete;
-
-private:
-    Tablero& t_;
-    bool antes_;
-};
 
 constexpr Bloque una_celda(int fila, int col) { return {fila, col, fila, col}; }
 

@@ -44,11 +44,13 @@ public:
     virtual void A_Edicion_Columnas_Off() = 0;
     /// Special-points mode: a click in column 1 selects rows.
     virtual void A_Especial_puntos_ON() = 0;
-    /// (-) colResul = colA + colB, row by row. Errors 9: a column of 26 or more; 6: no finite result.
+    /// colResul = colA + colB, row by row, in the format of colResul; columns without numbers are warned of.
+    /// Errors 9: column outside 0 to 25; 6: no finite result, the rows before it stay.
     virtual void m_Sumar_dos_ColumnasAyB(std::int32_t colA, std::int32_t colB, std::int32_t colResul) = 0;
-    /// (-) colResul = colA - colB; errors as the sum.
+    /// colResul = colA - colB, as the sum.
     virtual void m_Restar_dos_ColumnasA_B(std::int32_t colA, std::int32_t colB, std::int32_t colResul) = 0;
-    /// (-) Each row of colResul = the row of columna less the one above; errors as the sum.
+    /// Each row of colResul = the row of columna less the one above (on the same column: as it is by then),
+    /// row 1 empty; negative results in red if asked for, the last of them current. Errors as the sum.
     virtual void m_Diferencia_Parcial_1Columna(
         std::int32_t columna, std::int32_t colResul, bool ValNegativoColorRojo = false) = 0;
     /// Text colour of a column's data cells; the selection collapses. Outside the grid: nothing.
@@ -140,13 +142,15 @@ public:
     virtual void MergeCells(std::int16_t valor) = 0;
     /// Only the header row remains.
     virtual void Clear() = 0;
-    /// (-) A numeric column as array of bounds 1 to Rows - 1. Error 9: column outside 0 to 25.
+    /// A numeric column as array of bounds 1 to Rows - 1; any other: message, and the array is zeroed.
+    /// Error 9: column outside 0 to 25.
     virtual void m_Obten_Matriz_Numerica_de_columna(std::int32_t columna, Matriz<double>& Matriz1) = 0;
-    /// (-) The same for the texts of any other column.
+    /// The same for the texts of a column that is not numeric.
     virtual void m_Obten_Matriz_Alfanume_de_columna(std::int32_t columna, Matriz<std::string>& Matriz1) = 0;
-    /// (-) An array into a numeric column, element r into row r. Errors 9: column, bounds; 6: not finite.
+    /// An array into a numeric column, element r into row r; rows beyond it stay. Any other column: message.
+    /// Errors 9: column, array not one-dimensional or beginning above 1; 6: not finite, nothing written.
     virtual void m_Asigna_Matriz_Numerica_a_Columna(std::int32_t columna, const Matriz<double>& Matriz1) = 0;
-    /// (-) The same for texts into any other column. Error 9.
+    /// The same for texts into a column that is not numeric. Error 9.
     // NOLINTNEXTLINE(bugprone-reserved-identifier)
     virtual void m__Asigna_Matriz_Alfanume_a_Columna(
         std::int32_t columna, const Matriz<std::string>& Matriz1) = 0;

@@ -8,10 +8,13 @@
 #include "control/miembros.h"
 #include "core/ciclo_vida.h"
 #include "core/formatos.h"
+#include "core/columnas_matriz.h"
+#include "core/computos.h"
 #include "core/superficie.h"
 #include "editing/filas.h"
 
 #include <utility>
+#include <algorithm>
 
 namespace Qlt4_Tabla {
 
@@ -24,6 +27,44 @@ auto protege(EstadoTabla& e, const Miembro& m, F&& orden) {
 }
 
 } // namespace
+// The part of a member where columns that have a format may lie beyond the grid: that is shown, although
+// the member raises the same error for columns without one.
+template <class F>
+void en_tablero(EstadoTabla& e, const Miembro& m, F&& orden) {
+    guarda_miembro(e.plataforma.mensajes, m.nombre, {6}, std::forward<F>(orden));
+}
+
+void pinta_de_rojo(EstadoTabla& e, int fila, int col) { ColMatrix(e, fila, col, T_colores::Rojo); }
+
+template <class T>
+void dimensiona(Matriz<T>& matriz, int filas) {
+    matriz.redimensiona(1, filas);
+}
+
+void dimensiona(std::vector<double>& valores, int filas) {
+    valores.assign(static_cast<std::size_t>(filas), 0.0);
+}
+
+template <class Valores>
+void obten(EstadoTabla& e, const Miembro& m, std::int32_t columna, ClaseMatriz clase, Valores& valores) {
+    protege(e, m, [&] {
+        const bool puede = se_puede_obtener(e, columna, clase);
+        dimensiona(valores, std::max(e.tablero.Rows() - 1, 0));
+        if (puede) en_tablero(e, m, [&] { obtiene_columna(e, columna, std::span(valores)); });
+    });
+}
+
+// `elementos()` gives the elements from row 1 on; its error is the caller's.
+template <class Elementos>
+void asigna(
+    EstadoTabla& e, const Miembro& m, std::int32_t columna, ClaseMatriz clase, const Elementos& elementos) {
+    protege(e, m, [&] {
+        if (!se_puede_asignar(e, columna, clase)) return;
+        const auto valores = elementos();
+        en_tablero(e, m, [&] { asigna_columna(e, columna, valores); });
+    });
+}
+
 
 Tabla0::Tabla0(const Plataforma& plataforma, __Tabla0& eventos)
     : e_(plataforma, eventos),
@@ -60,14 +101,31 @@ void Tabla0::A_Especial_puntos_ON() {
     protege(e_, miembro("A_Especial_puntos_ON"), [&] { e_.especialPuntos = true; });
 }
 
-// No rule yet.
-void Tabla0::m_Sumar_dos_ColumnasAyB(std::int32_t, std::int32_t, std::int32_t) {}
+void Tabla0::m_Sumar_dos_ColumnasAyB(std::int32_t colA, std::int32_t colB, std::int32_t colResul) {
+    constexpr const Miembro& m = miembro("m_Sumar_dos_ColumnasAyB");
+    protege(e_, m, [&] {
+        avisa_no_sumables(e_, colA, colB, colResul);
+        en_tablero(e_, m, [&] { suma_columnas(e_, colA, colB, colResul); });
+    });
+}
 
-// No rule yet.
-void Tabla0::m_Restar_dos_ColumnasA_B(std::int32_t, std::int32_t, std::int32_t) {}
+void Tabla0::m_Restar_dos_ColumnasA_B(std::int32_t colA, std::int32_t colB, std::int32_t colResul) {
+    constexpr const Miembro& m = miembro("m_Restar_dos_ColumnasA_B");
+    protege(e_, m, [&] {
+        avisa_no_sumables(e_, colA, colB, colResul);
+        en_tablero(e_, m, [&] { resta_columnas(e_, colA, colB, colResul); });
+    });
+}
 
-// No rule yet.
-void Tabla0::m_Diferencia_Parcial_1Columna(std::int32_t, std::int32_t, bool) {}
+void Tabla0::m_Diferencia_Parcial_1Columna(
+    std::int32_t columna, std::int32_t colResul, bool ValNegativoColorRojo) {
+    constexpr const Miembro& m = miembro("m_Diferencia_Parcial_1Columna");
+    protege(e_, m, [&] {
+        avisa_no_numericas(e_, columna, colResul);
+        const AlNegativo al_negativo = ValNegativoColorRojo ? AlNegativo(pinta_de_rojo) : AlNegativo();
+        en_tablero(e_, m, [&] { diferencia_parcial(e_, columna, colResul, al_negativo); });
+    });
+}
 
 void Tabla0::Color_Columna(std::int32_t columna, T_colores Color) {
     protege(e_, miembro("Color_Columna"), [&] { Qlt4_Tabla::Color_Columna(e_, columna, Color); });
@@ -247,17 +305,32 @@ void Tabla0::Clear() {
     protege(e_, miembro("Clear"), [&] { Qlt4_Tabla::Clear(e_); });
 }
 
-// No rule yet.
-void Tabla0::m_Obten_Matriz_Numerica_de_columna(std::int32_t, Matriz<double>&) {}
+void Tabla0::m_Obten_Matriz_Numerica_de_columna(std::int32_t columna, Matriz<double>& Matriz1) {
+    obten(e_, miembro("m_Obten_Matriz_Numerica_de_columna"), columna, ClaseMatriz::Numeros, Matriz1);
+}
 
-// No rule yet.
-void Tabla0::m_Obten_Matriz_Alfanume_de_columna(std::int32_t, Matriz<std::string>&) {}
+void Tabla0::m_Obten_Matriz_Numerica_de_columna(std::int32_t columna, std::vector<double>& valores) {
+    obten(e_, miembro("m_Obten_Matriz_Numerica_de_columna"), columna, ClaseMatriz::Numeros, valores);
+}
 
-// No rule yet.
-void Tabla0::m_Asigna_Matriz_Numerica_a_Columna(std::int32_t, const Matriz<double>&) {}
+void Tabla0::m_Obten_Matriz_Alfanume_de_columna(std::int32_t columna, Matriz<std::string>& Matriz1) {
+    obten(e_, miembro("m_Obten_Matriz_Alfanume_de_columna"), columna, ClaseMatriz::Textos, Matriz1);
+}
 
-// No rule yet.
-void Tabla0::m__Asigna_Matriz_Alfanume_a_Columna(std::int32_t, const Matriz<std::string>&) {}
+void Tabla0::m_Asigna_Matriz_Numerica_a_Columna(std::int32_t columna, const Matriz<double>& Matriz1) {
+    constexpr const Miembro& m = miembro("m_Asigna_Matriz_Numerica_a_Columna");
+    asigna(e_, m, columna, ClaseMatriz::Numeros, [&] { return desde_fila_1(Matriz1); });
+}
+
+void Tabla0::m_Asigna_Matriz_Numerica_a_Columna(std::int32_t columna, std::span<const double> valores) {
+    constexpr const Miembro& m = miembro("m_Asigna_Matriz_Numerica_a_Columna");
+    asigna(e_, m, columna, ClaseMatriz::Numeros, [&] { return valores; });
+}
+
+void Tabla0::m__Asigna_Matriz_Alfanume_a_Columna(std::int32_t columna, const Matriz<std::string>& Matriz1) {
+    constexpr const Miembro& m = miembro("m__Asigna_Matriz_Alfanume_a_Columna");
+    asigna(e_, m, columna, ClaseMatriz::Textos, [&] { return desde_fila_1(Matriz1); });
+}
 
 // Accepts its arguments and does nothing, for good: kept for the hosts that call it.
 void Tabla0::Show_Eleige_Color(

@@ -15,6 +15,9 @@
 #include "editing/navegacion.h"
 #include "platform/bolsa_propiedades.h"
 
+#include <span>
+#include <vector>
+
 namespace Qlt4_Tabla {
 
 class Tabla0 final : public _Tabla0 {
@@ -101,6 +104,10 @@ public:
     void Color_Matrix_de_Cad(std::int32_t fila, std::int32_t colm, std::int16_t valor) override;
     void Color_Matrix_en_Cad_dado_N_VB(std::int32_t fila, std::int32_t colm, std::int32_t valor) override;
     void Color_Matrix_en_Cad_dado_N_cad(std::int32_t fila, std::int32_t colm, std::int16_t valor) override;
+
+    // --- The same for hosts in C++: element 0 belongs to row 1 ---
+    void m_Obten_Matriz_Numerica_de_columna(std::int32_t columna, std::vector<double>& valores);
+    void m_Asigna_Matriz_Numerica_a_Columna(std::int32_t columna, std::span<const double> valores);
 
     // --- For front ends ---
     [[nodiscard]] const Tablero& tablero() const { return e_.tablero; }

@@ -64,4 +64,17 @@ inline constexpr std::string_view extension_inicial = "*.tb0";
 inline constexpr std::string_view no_es_lista_antes = "ERROR tabla.ocx: la columna ";
 inline constexpr std::string_view no_es_lista_despues = " no es una lista";
 
+// Columns that hold no numbers, in computations: one of these, Str(column), the arrow, subtitle. The
+// last one lacks a word and has two blanks; intended.
+inline constexpr std::string_view no_sumable = "ERROR en Tabla.ocx:la columna no es Sumable:";
+inline constexpr std::string_view no_numerica = "ERROR en Tabla.ocx:la columna no es numérica:";
+inline constexpr std::string_view no_numerica_resultado = "ERROR en Tabla.ocx:la columna no  numérica:";
+inline constexpr std::string_view flecha = " ->";
+
+// A column of the other kind, in the exchange with arrays: one of the first two, one of the others.
+inline constexpr std::string_view obtener_matriz = "ERROR Tabla.ocx: Obtener una matriz de una columna\r\n";
+inline constexpr std::string_view asignar_matriz = "ERROR Tabla.ocx: Asignar una matriz a una columna\r\n";
+inline constexpr std::string_view ha_de_ser_numerica = "tiene que ser una columna numérica";
+inline constexpr std::string_view ha_de_ser_alfanumerica = "tiene que ser una columna alfanumérica";
+
 } // namespace Qlt4_Tabla::textos

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+// Column computations: one pass over the result column, the others read beside it.
+#include "core/computos.h"
+
+#include "base/error.h"
+#include "base/numeros.h"
+#include "core/formatos.h"
+#include "core/redibujo_suspendido.h"
+#include "core/reglas_valor.h"
+#include "core/textos.h"
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Qlt4_Tabla {
+
+namespace {
+
+constexpr int DECIMALES_RESULTADO = 9;
+
+void avisa_si_no_es_sumable(EstadoTabla& e, std::int32_t col, std::string_view aviso) {
+    if (formato(e, col).Formato <= static_cast<std::int16_t>(T_formato::Alfanm)) return;
+    std::string texto(aviso);
+    texto += Str(col);
+    texto += textos::flecha;
+    texto += e.nombres.subtitulo();
+    e.plataforma.mensajes.mensaje(texto, EstiloMensaje::Critico, {});
+}
+
+void exige_en_tablero(const Tablero& t, std::initializer_list<std::int32_t> columnas) {
+    for (const std::int32_t col : columnas)
+        if (col < 0 || col >= t.Cols()) lanza(NumError::Subindice);
+}
+
+double numero(const Tablero& t, int fila, int col) { return Valor_Numerico(t.TextMatrix(fila, col)); }
+
+// An invisible column stays so, also when its format ends in an error.
+void aplica_formato(EstadoTabla& e, int col) {
+    const auto esconde = [&] {
+        if (formato(e, col).Invisible) e.tablero.ColWidth(col, 0);
+    };
+    try {
+        Tablero_Formato_Columna(e, col);
+    } catch (...) {
+        esconde();
+        throw;
+    }
+    esconde();
+}
+
+// Writes into each data row what `resultado(row, old text, new text)` puts there.
+template <class Resultado>
+void escribe_columna(EstadoTabla& e, int col, const Resultado& resultado) {
+    const int ultima = e.tablero.Rows() - 1;
+    if (ultima >= 1) refresca_ComaDecimal(e);
+    e.tablero.transforma_columna(col, 1, ultima, [&](int fila, std::string_view texto, std::string& nuevo) {
+        resultado(fila, texto, nuevo);
+        return nuevo != texto;
+    });
+}
+
+template <class Operacion>
+void opera(EstadoTabla& e, std::int32_t colA, std::int32_t colB, std::int32_t colResul, Operacion operacion) {
+    Tablero& t = e.tablero;
+    exige_en_tablero(t, {colA, colB, colResul});
+    const RedibujoSuspendido suspendido(t);
+    escribe_columna(e, colResul, [&](int fila, std::string_view, std::string& nuevo) {
+        const double a = numero(t, fila, colA);
+        Formato_Numero(operacion(a, numero(t, fila, colB)), 0, DECIMALES_RESULTADO, nuevo);
+    });
+    aplica_formato(e, colResul);
+}
+
+// Writes the differences; the rows of the negative ones into `negativas`.
+void escribe_diferencias(EstadoTabla& e, int columna, int colResul, std::vector<int>& negativas) {
+    const bool en_si_misma = columna == colResul;
+    double anterior = 0;
+    escribe_columna(e, colResul, [&](int fila, std::string_view texto, std::string& nuevo) {
+        const double actual = en_si_misma ? Valor_Numerico(texto) : numero(e.tablero, fila, columna);
+        if (fila > 1) {
+            const double diferencia = actual - anterior;
+            Formato_Numero(diferencia, 0, DECIMALES_RESULTADO, nuevo);
+            if (diferencia < 0) negativas.push_back(fila);
+        }
+        anterior = en_si_misma ? Valor_Numerico(nuevo) : actual;
+    });
+}
+
+} // namespace
+
+void avisa_no_sumables(EstadoTabla& e, std::int32_t colA, std::int32_t colB, std::int32_t colResul) {
+    for (const std::int32_t col : {colA, colB, colResul}) avisa_si_no_es_sumable(e, col, textos::no_sumable);
+}
+
+void avisa_no_numericas(EstadoTabla& e, std::int32_t columna, std::int32_t colResul) {
+    avisa_si_no_es_sumable(e, columna, textos::no_numerica);
+    avisa_si_no_es_sumable(e, colResul, textos::no_numerica_resultado);
+}
+
+void suma_columnas(EstadoTabla& e, std::int32_t colA, std::int32_t colB, std::int32_t colResul) {
+    opera(e, colA, colB, colResul, [](double a, double b) { return a + b; });
+}
+
+void resta_columnas(EstadoTabla& e, std::int32_t colA, std::int32_t colB, std::int32_t colResul) {
+    opera(e, colA, colB, colResul, [](double a, double b) { return a - b; });
+}
+
+void diferencia_parcial(
+    EstadoTabla& e, std::int32_t columna, std::int32_t colResul, const AlNegativo& al_negativo) {
+    exige_en_tablero(e.tablero, {columna, colResul});
+    const RedibujoSuspendido suspendido(e.tablero);
+    std::vector<int> negativas;
+    const auto avisa = [&] {
+        if (!al_negativo) return;
+        for (const int fila : negativas) al_negativo(e, fila, colResul);
+    };
+    try {
+        escribe_diferencias(e, columna, colResul, negativas);
+    } catch (...) {
+        avisa();
+        throw;
+    }
+    avisa();
+    aplica_formato(e, colResul);
+}
+
+} // namespace Qlt4_Tabla
