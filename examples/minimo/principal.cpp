@@ -20,7 +20,7 @@ int main(int argc, char** argv) {
     Tabla0& t = ventana.tabla();
     t.Tablero_Nombres(minimo::TITULO_TABLA, minimo::SUBTITULO, "*.tb0");
     t.Cols(4); // column 0 holds the row numbers
-    t.FormatoColumnas(0, false, true, T_formato::Alfanm, 0, T_Alineacion::Izqda, T_Accion::Nada__, 5, "");
+    t.FormatoColumnas(0, false, false, T_formato::Alfanm, 0, T_Alineacion::Izqda, T_Accion::Nada__, 5, "");
     t.FormatoColumnas(
         1, false, false, T_formato::Alfanm, 0, T_Alineacion::Izqda, T_Accion::Increm, 14, minimo::NOMBRE);
     t.FormatoColumnas(
@@ -28,6 +28,7 @@ int main(int argc, char** argv) {
     t.FormatoColumnas(
         3, false, false, T_formato::Real__, 3, T_Alineacion::Drcha, T_Accion::Nada__, 14, minimo::Y);
     t.Tablero_establece_Formato();
+    t.Rows(2); // the header and one row; Enter on the last row makes the next
     t.TextMatrix(1, 1, "P1");
     QObject::connect(&ventana, &TablaWidget::CambiaCasilla, [&t] {
         const int fila = t.tablero().Row();
@@ -36,5 +37,6 @@ int main(int argc, char** argv) {
     });
 
     ventana.setWindowTitle(minimo::TITULO);
+    ventana.resize(420, 260);
     return ejemplos::corre(ventana, opciones);
 }

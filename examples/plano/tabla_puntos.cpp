@@ -72,9 +72,9 @@ void prepara_tabla(Tabla0& tabla, const std::vector<Muestra>& muestras) {
     tabla.Tablero_Nombres(textos::TITULO_TABLA, textos::SUBTITULO_TABLA, textos::EXTENSION);
     tabla.A_Edicion_pon_Color(); // colour cells are painted in their colour
     tabla.Cols(CUANTAS_COLUMNAS);
-    // A locked column 0 shows the count of rows below the table.
+    // Unlocked: a locked column 0 would show a count of rows below the table; the status bar has one.
     tabla.FormatoColumnas(
-        NUMERO, false, true, T_formato::Alfanm, 0, T_Alineacion::Izqda, T_Accion::Nada__, 6, std::string());
+        NUMERO, false, false, T_formato::Alfanm, 0, T_Alineacion::Izqda, T_Accion::Nada__, 6, std::string());
     for (const Formato& f : FORMATOS)
         tabla.FormatoColumnas(static_cast<std::int16_t>(f.col), false, false, f.formato, f.decimales,
             f.alineacion, f.accion, f.ancho, f.nombre);

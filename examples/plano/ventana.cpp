@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Builds the window and joins the signals of table and plan.
 #include "ventana.h"
 
 #include "core/geometria.h"
@@ -87,10 +88,15 @@ void Ventana::pon_menus() {
     marcada(ver, textos::VER_CUADRICULA, [this](bool si) { plano_->con_cuadricula(si); });
 
     QMenu* ayuda = menuBar()->addMenu(textos::MENU_AYUDA);
-    accion(ayuda, textos::RATON, {},
-        [this] { QMessageBox::information(this, textos::TITULO, textos::SOBRE_RATON); });
-    accion(ayuda, textos::DATOS, {},
-        [this] { QMessageBox::information(this, textos::TITULO, textos::SOBRE_DATOS); });
+    const auto explica = [this](const QString& texto) {
+        auto* caja =
+            new QMessageBox(QMessageBox::Information, textos::TITULO, texto, QMessageBox::NoButton, this);
+        caja->addButton(textos::ACEPTAR, QMessageBox::AcceptRole);
+        caja->setAttribute(Qt::WA_DeleteOnClose);
+        caja->open();
+    };
+    accion(ayuda, textos::RATON, {}, [explica] { explica(textos::SOBRE_RATON); });
+    accion(ayuda, textos::DATOS, {}, [explica] { explica(textos::SOBRE_DATOS); });
 }
 
 void Ventana::pon_barra_estado() {
@@ -155,7 +161,9 @@ void Ventana::elige(int fila, int col, int fila_sel, int col_sel) {
     const int arriba = tabla_.tablero().TopRow();
     const bool a_la_vista = desde >= arriba && hasta < arriba + caben;
     tabla_.mandos().elige_bloque(fila, col, fila_sel, col_sel);
-    if (!a_la_vista) tabla_.A_RowTop(std::max(1, desde - std::max(1, (caben - (hasta - desde + 1)) / 2)));
+    const int antes = std::max(1, (caben - (hasta - desde + 1)) / 2);
+    const int ultima = Qlt4_Tabla::fila_superior_maxima(tabla_.tablero());
+    if (!a_la_vista) tabla_.A_RowTop(std::clamp(desde - antes, 1, std::max(1, ultima)));
 }
 
 // A table selects one block of rows: of scattered rows it takes the longest run, and says so.
