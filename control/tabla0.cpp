@@ -7,14 +7,14 @@
 #include "control/guarda.h"
 #include "control/miembros.h"
 #include "core/ciclo_vida.h"
-#include "core/formatos.h"
 #include "core/columnas_matriz.h"
 #include "core/computos.h"
+#include "core/formatos.h"
 #include "core/superficie.h"
 #include "editing/filas.h"
 
-#include <utility>
 #include <algorithm>
+#include <utility>
 
 namespace Qlt4_Tabla {
 
@@ -26,7 +26,6 @@ auto protege(EstadoTabla& e, const Miembro& m, F&& orden) {
     return guarda_miembro(e.plataforma.mensajes, m.nombre, m.errores, std::forward<F>(orden));
 }
 
-} // namespace
 // The part of a member where columns that have a format may lie beyond the grid: that is shown, although
 // the member raises the same error for columns without one.
 template <class F>
@@ -65,6 +64,7 @@ void asigna(
     });
 }
 
+} // namespace
 
 Tabla0::Tabla0(const Plataforma& plataforma, __Tabla0& eventos)
     : e_(plataforma, eventos),
