@@ -68,9 +68,11 @@ public:
     /// Applies the working formats to grid and cells. Errors 6: a width beyond 16 bits; 9: a 27th column,
     /// a list column without values at its first non-empty cell. After either redrawing stays off.
     virtual void Tablero_establece_Formato() = 0;
-    /// (-) Reads a table file.
+    /// Reads a table file: counts and texts; formats are applied, cell (1, 1), nothing modified. A file that
+    /// is not right changes nothing. Every error is shown: "Error al leer la Tabla de ...".
     virtual void Tablero_Leer(const std::string& nombreFichero) = 0;
-    /// (-) Writes a table file.
+    /// Writes the table over the beginning of the file; nothing is modified then. Every error is shown:
+    /// "Error al guardar la Tabla de ...".
     virtual void Tablero_Grabar(const std::string& nombreFichero) = 0;
     /// The component's own size in twips, let with anything that converts to a Single; below 0 counts as 0.
     virtual void Width(const Variante& valor) = 0;

@@ -37,14 +37,19 @@ std::string prefijo_miembro(std::string_view miembro) {
     return prefijo;
 }
 
-void trata_error(Mensajes& mensajes, std::string_view prefijo, const ErroresAlLlamador& pasan) {
+void trata_error(Mensajes& mensajes, const FormaMensaje& forma, const ErroresAlLlamador& pasan) {
     const Error error = error_actual();
     if (pasan.contiene(error.numero())) throw Error(error);
-    std::string texto(prefijo);
+    std::string texto = forma.prefijo;
     texto += numero_a_texto(error.numero());
-    texto += textos::antes_de_descripcion;
+    texto += forma.antes_de_descripcion;
     texto += error.descripcion();
-    mensajes.mensaje(texto, EstiloMensaje::Critico, {});
+    mensajes.mensaje(texto, forma.estilo, {});
+}
+
+void trata_error(Mensajes& mensajes, std::string_view prefijo, const ErroresAlLlamador& pasan) {
+    trata_error(mensajes,
+        FormaMensaje{std::string(prefijo), textos::antes_de_descripcion, EstiloMensaje::Critico}, pasan);
 }
 
 } // namespace Qlt4_Tabla

@@ -54,9 +54,18 @@ private:
 /// What the message of a member begins with: "Tabla ", its name, " - Error nº ".
 [[nodiscard]] std::string prefijo_miembro(std::string_view miembro);
 
+/// The message of an error: `prefijo`, number, `antes_de_descripcion`, description.
+struct FormaMensaje {
+    std::string prefijo;
+    std::string_view antes_de_descripcion;
+    EstiloMensaje estilo = EstiloMensaje::Critico;
+};
+
 /// Inside a handler only: throws on the error being handled when `pasan` holds its number, else shows
-/// `prefijo`, number, ": " and description with the critical icon and no title. Memory that is not to be
-/// had counts as error 7, any other standard exception as error 5; what is no such exception goes on.
+/// it in that form, without a title. Memory that is not to be had counts as error 7, any other standard
+/// exception as error 5; what is no such exception goes on.
+void trata_error(Mensajes& mensajes, const FormaMensaje& forma, const ErroresAlLlamador& pasan);
+/// The same as `prefijo`, number, ": " and description with the critical icon.
 void trata_error(Mensajes& mensajes, std::string_view prefijo, const ErroresAlLlamador& pasan);
 
 /// Runs `orden` and gives its result; after an error that was shown, a value-initialised one.
@@ -79,6 +88,18 @@ std::invoke_result_t<F> guarda_miembro(
         return std::forward<F>(orden)();
     } catch (...) {
         trata_error(mensajes, prefijo_miembro(miembro), pasan);
+    }
+    return std::invoke_result_t<F>();
+}
+
+/// The same with a message of another form; `forma()` makes it when it is needed.
+template <class Forma, class F>
+std::invoke_result_t<F> guarda_con_forma(
+    Mensajes& mensajes, Forma&& forma, const ErroresAlLlamador& pasan, F&& orden) {
+    try {
+        return std::forward<F>(orden)();
+    } catch (...) {
+        trata_error(mensajes, forma(), pasan);
     }
     return std::invoke_result_t<F>();
 }

@@ -2,6 +2,7 @@
 // The front end's way in: each call translates, asks the rules of editing/ and keeps their errors inside.
 #include "control/mandos.h"
 
+#include "control/ficheros.h"
 #include "control/guarda.h"
 #include "editing/filas.h"
 
@@ -36,7 +37,7 @@ void rehace(EstadoTabla& e) {
     e.plataforma.marco.menus_cambiados();
 }
 
-constexpr std::array<Orden, 10> ORDENES{{
+constexpr std::array<Orden, 12> ORDENES{{
     {Opcion::mn_Deshacer, "mn_Deshacer", [](EstadoTabla&) {}}, // undo does nothing
     {Opcion::mn_Rehacer, "mn_Rehacer", rehace},
     {Opcion::mn_insertar_filas, "mn_insertar_filas", mn_insertar_filas},
@@ -44,6 +45,8 @@ constexpr std::array<Orden, 10> ORDENES{{
     {Opcion::mn_añadir_filas, "mn_añadir_filas", mn_añadir_filas},
     {Opcion::mn_eliminar_vacias, "mn_eliminar_vacias", mn_eliminar_vacias},
     {Opcion::mn_borrar_seleccion, "mn_borrar_seleccion", mn_borrar_seleccion},
+    {Opcion::Mnu_Tabla_Leer, "Mnu_Tabla_Leer", Mnu_Tabla_Leer},
+    {Opcion::Mnu_Tabla_Guardar_como, "Mnu_Tabla_Guardar_como", Mnu_Tabla_Guardar_como},
     {Opcion::MN_avance_horizontal, "MN_avance_horizontal", alterna_avance},
     {Opcion::mn_Especial_puntos_Avance, "mn_Especial_puntos_Avance", alterna_avance},
     {Opcion::mn_salir, "mn_salir", [](EstadoTabla& e) { e.eventos.Salir(); }},

@@ -4,6 +4,7 @@
 #include "control/tabla0.h"
 
 #include "colours/celdas.h"
+#include "control/ficheros.h"
 #include "control/guarda.h"
 #include "control/miembros.h"
 #include "core/ciclo_vida.h"
@@ -151,11 +152,12 @@ void Tabla0::Tablero_establece_Formato() {
     protege(e_, miembro("Tablero_establece_Formato"), [&] { Qlt4_Tabla::Tablero_establece_Formato(e_); });
 }
 
-// No rule yet.
-void Tabla0::Tablero_Leer(const std::string&) {}
+// An edit begun on the old table must not end in the new one.
+void Tabla0::Tablero_Leer(const std::string& nombreFichero) {
+    lee_fichero(e_, nombreFichero, [this] { editor_.descarta(); });
+}
 
-// No rule yet.
-void Tabla0::Tablero_Grabar(const std::string&) {}
+void Tabla0::Tablero_Grabar(const std::string& nombreFichero) { graba_fichero(e_, nombreFichero); }
 
 void Tabla0::Width(const Variante& valor) {
     protege(e_, miembro("Width"), [&] { Qlt4_Tabla::Width(e_, valor); });

@@ -210,8 +210,6 @@ TEST_P(FormatosTabla, MembersWithoutRuleLeaveTheTableAlone) {
     t.Copiar_todo_Excel();
     t.Tablero_Lee_Formato_Win("a", "b");
     t.Tablero_Graba_Formato_Win("a", "b");
-    t.Tablero_Leer("nada.tb0");
-    t.Tablero_Grabar("nada.tb0");
     t.A_actualizaEditor(true);
     EXPECT_EQ(t.Show_Elige_Color(0x123456), 0x123456);
     EXPECT_TRUE(p.vista.avisos.empty());
