@@ -12,15 +12,14 @@ long quedan = -1;
 
 } // namespace
 
-void quedan_asignaciones(long n) { quedan = n; }
+void falla_tras(long n) { quedan = n; }
 
 } // namespace Qlt4_Tabla
 
 void* operator new(std::size_t n) {
-    using Qlt4_Tabla::quedan;
-    void* const p = quedan == 0 ? nullptr : std::malloc(n == 0 ? 1 : n);
+    if (Qlt4_Tabla::quedan >= 0 && Qlt4_Tabla::quedan-- == 0) throw std::bad_alloc();
+    void* const p = std::malloc(n == 0 ? 1 : n);
     if (!p) throw std::bad_alloc();
-    if (quedan > 0) --quedan;
     return p;
 }
 

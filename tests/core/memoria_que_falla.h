@@ -5,7 +5,7 @@
 
 namespace Qlt4_Tabla {
 
-/// After `n` more allocations all fail; negative: none does (so it begins).
-void quedan_asignaciones(long n);
+/// After `n` more allocations one fails; negative: none does (so it begins).
+void falla_tras(long n);
 
 } // namespace Qlt4_Tabla

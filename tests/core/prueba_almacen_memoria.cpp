@@ -39,14 +39,14 @@ protected:
     int falla_y_al_fin_puede(const Hace& hace) {
         const std::string antes = foto();
         for (int n = 0;; ++n) {
-            quedan_asignaciones(n);
+            falla_tras(n);
             bool fallo = false;
             try {
                 hace();
             } catch (const std::bad_alloc&) {
                 fallo = true;
             }
-            quedan_asignaciones(-1);
+            falla_tras(-1);
             if (!fallo) return n;
             EXPECT_EQ(foto(), antes);
             if (HasFailure()) return n;
