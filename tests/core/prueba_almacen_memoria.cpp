@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // AlmacenCeldas without memory: each operation is tried with the first, the second, ... allocation failing
-// until it succeeds; after each failure the table has to be as it was. The runs of bytes
-// themselves come from std::realloc, which does not fail here.
+// until it succeeds; after each failure the table has to be as it was. The runs of bytes themselves come
+// from std::realloc, which does not fail here.
 #include "core/almacen_celdas.h"
 #include "tests/core/memoria_que_falla.h"
 
@@ -70,6 +70,15 @@ TEST_F(Almacen_sin_memoria, escribir_en_una_fila_de_un_trozo_sin_textos) {
     EXPECT_EQ(a.texto(50'001, 0), "50001");
 }
 
+TEST_F(Almacen_sin_memoria, escribir_un_texto_largo_en_una_fila_de_un_trozo_sin_textos) {
+    a.pon_columnas(3);
+    a.pon_filas(1000);
+    const std::string texto(100'000, 'x');
+    EXPECT_GT(falla_y_al_fin_puede([&] { a.pon_texto(500, 1, texto); }), 0);
+    EXPECT_EQ(a.texto(500, 1), texto);
+    EXPECT_LT(a.bytes(), 2 * texto.size()); // those of the failures are gone
+}
+
 TEST_F(Almacen_sin_memoria, insertar_filas_en_medio) {
     llena(257);
     EXPECT_GT(falla_y_al_fin_puede([&] { a.inserta(100, 1000); }), 0);
@@ -111,6 +120,27 @@ TEST_F(Almacen_sin_memoria, borrar_no_la_necesita) {
     EXPECT_EQ(falla_y_al_fin_puede([&] { a.numera(); }), 0);
     EXPECT_EQ(falla_y_al_fin_puede([&] { a.pon_filas(1); }), 0);
     EXPECT_EQ(a.filas(), 1);
+}
+
+// Small neighbours are joined after a removal; without memory they stay apart, which nobody sees.
+TEST_F(Almacen_sin_memoria, borrar_junta_los_restos_o_los_deja) {
+    for (const long n : {0, 1, 2, 3, 99}) {
+        AlmacenCeldas b;
+        b.pon_columnas(2);
+        b.pon_filas(256);
+        for (int f = 0; f < 256; ++f) b.pon_texto(f, 1, std::to_string(f));
+        b.pon_color_fondo(230, 1, 230, 1, 7);
+        b.pon_color_texto(231, 1, 231, 1, 8);
+        falla_tras(n);
+        b.borra(40, 170);
+        falla_tras(-1);
+        ASSERT_EQ(b.filas(), 86);
+        for (int f = 0; f < 86; ++f) {
+            ASSERT_EQ(b.texto(f, 1), std::to_string(f < 40 ? f : f + 170)) << n;
+            ASSERT_EQ(b.color_fondo(f, 1), f == 60 ? 7 : 0) << n;
+            ASSERT_EQ(b.color_texto(f, 1), f == 61 ? 8 : 0) << n;
+        }
+    }
 }
 
 } // namespace

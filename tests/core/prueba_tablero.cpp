@@ -331,7 +331,9 @@ TEST_F(Rejilla, las_imagenes_van_con_su_fila_y_dejan_el_texto) {
 TEST_F(Rejilla, una_imagen_nula_quita_la_que_habia) {
     pon_tamano(3, 3);
     const auto una = std::make_shared<UnaImagen>();
+    t.CellPicture(1, 1, std::make_shared<UnaImagen>());
     t.CellPicture(1, 1, una);
+    EXPECT_EQ(t.CellPicture(1, 1), una);
     t.CellPicture(1, 1, nullptr);
     EXPECT_EQ(t.CellPicture(1, 1), nullptr);
     EXPECT_EQ(una.use_count(), 1);
