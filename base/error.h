@@ -26,6 +26,7 @@ enum class NumError : int {
     SinRuta = 76,
     SinComponente = 429,
     ServidorPerdido = 462,
+    PortapapelesCerrado = 521,
     ErrorAplicacion = 1004
 };
 

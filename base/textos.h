@@ -15,7 +15,7 @@ struct ErrorConTexto {
 };
 
 // In ascending order of the number.
-inline constexpr std::array<ErrorConTexto, 15> errores{{
+inline constexpr std::array<ErrorConTexto, 16> errores{{
     {5, "Llamada a procedimiento o argumento no válidos"},
     {6, "Desbordamiento"},
     {7, "Memoria insuficiente"},
@@ -30,6 +30,7 @@ inline constexpr std::array<ErrorConTexto, 15> errores{{
     {76, "No se ha encontrado la ruta de acceso"},
     {429, "El componente ActiveX no puede crear el objeto"},
     {462, "El equipo servidor remoto no existe o no está disponible"},
+    {521, "No se puede abrir el Portapapeles"},
     {1004, "Error definido por la aplicación o el objeto"},
 }};
 

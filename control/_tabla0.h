@@ -57,9 +57,10 @@ public:
     virtual void Color_Columna(std::int32_t columna, T_colores Color) = 0;
     /// Appends a row filled by the columns' actions. Errors 9: more than 26 columns; 6: no more rows.
     virtual void crea_una_fila() = 0;
-    /// (-) The whole table to the clipboard.
+    /// The data cells to a new workbook of a spreadsheet program, shown to the user. Every error is shown:
+    /// "copiar todo - Error nº 429:...".
     virtual void Copiar_Todo() = 0;
-    /// (-) The whole table to a spreadsheet.
+    /// The same as Copiar_Todo.
     virtual void Copiar_todo_Excel() = 0;
     /// (-) Working formats from the settings t_apli, t_cap. Error 9: more than 26 columns.
     virtual void Tablero_Lee_Formato_Win(const std::string& t_apli, const std::string& t_cap) = 0;

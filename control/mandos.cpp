@@ -2,8 +2,11 @@
 // The front end's way in: each call translates, asks the rules of editing/ and keeps their errors inside.
 #include "control/mandos.h"
 
+#include "clipboard/copia.h"
+#include "clipboard/pega.h"
 #include "control/ficheros.h"
 #include "control/guarda.h"
+#include "control/portapapeles.h"
 #include "editing/filas.h"
 
 #include <algorithm>
@@ -37,9 +40,24 @@ void rehace(EstadoTabla& e) {
     e.plataforma.marco.menus_cambiados();
 }
 
-constexpr std::array<Orden, 12> ORDENES{{
+void copia(EstadoTabla& e) { Copiar_Seleccion(e, 0); }
+
+void copia_con_coma(EstadoTabla& e) { Copiar_Seleccion(e, 1); }
+
+void pega(EstadoTabla& e) { Pegar_Portapapeles(e, false); }
+
+void pega_con_punto(EstadoTabla& e) { Pegar_Portapapeles(e, true); }
+
+constexpr std::array<Orden, 22> ORDENES{{
     {Opcion::mn_Deshacer, "mn_Deshacer", [](EstadoTabla&) {}}, // undo does nothing
     {Opcion::mn_Rehacer, "mn_Rehacer", rehace},
+    {Opcion::mn_cortar, "mn_cortar", corta_seleccion},
+    {Opcion::mn_copiar, "mn_copiar", copia},
+    {Opcion::mn_Pegar, "mn_Pegar", pega},
+    {Opcion::mn_copiar_todo_y_cabezera, "mn_copiar_todo_y_cabezera", copia_con_cabecera},
+    {Opcion::mn_copiar_pXc, "mn_copiar_pXc", copia_con_coma},
+    {Opcion::mn_pegar_cXp, "mn_pegar_cXp", pega_con_punto},
+    {Opcion::mn_pegar_al_final, "mn_pegar_al_final", pega_al_final},
     {Opcion::mn_insertar_filas, "mn_insertar_filas", mn_insertar_filas},
     {Opcion::mn_eliminar_filas, "mn_eliminar_filas", mn_eliminar_filas},
     {Opcion::mn_añadir_filas, "mn_añadir_filas", mn_añadir_filas},
@@ -50,6 +68,32 @@ constexpr std::array<Orden, 12> ORDENES{{
     {Opcion::MN_avance_horizontal, "MN_avance_horizontal", alterna_avance},
     {Opcion::mn_Especial_puntos_Avance, "mn_Especial_puntos_Avance", alterna_avance},
     {Opcion::mn_salir, "mn_salir", [](EstadoTabla& e) { e.eventos.Salir(); }},
+    {Opcion::mn_Especial_puntos_Copia, "mn_Especial_puntos_Copia", copia},
+    {Opcion::mn_copiar1, "mn_copiar1", copia},
+    {Opcion::mn_Pegar2, "mn_Pegar2", pega},
+}};
+
+struct Atajo {
+    int KeyCode; // with Ctrl alone
+    Opcion opcion;
+};
+
+constexpr std::array<Atajo, 4> ATAJOS{{
+    {teclas::Z, Opcion::mn_Deshacer},
+    {teclas::X, Opcion::mn_cortar},
+    {teclas::C, Opcion::mn_copiar},
+    {teclas::V, Opcion::mn_Pegar},
+}};
+
+struct BotonBarra {
+    std::string_view clave;
+    void (*ejecuta)(EstadoTabla&);
+};
+
+constexpr std::array<BotonBarra, 3> BOTONES{{
+    {"Copiar", copia_tabla},
+    {"Pegar", pega},
+    {"Excel", copia_en_hoja},
 }};
 
 } // namespace
@@ -69,6 +113,8 @@ void Mandos::cambia_vista(const std::function<void()>& orden) {
 }
 
 bool Mandos::tecla_abajo(int KeyCode, Modificadores mods) {
+    for (const Atajo& atajo : ATAJOS)
+        if (atajo.KeyCode == KeyCode && mods == teclas::CONTROL) return orden(atajo.opcion);
     bool usada = true;
     protege(TABLERO, [&] {
         if (KeyCode == teclas::F2)
@@ -185,6 +231,19 @@ bool Mandos::orden(Opcion opcion) {
         o->ejecuta(e_);
     });
     return true;
+}
+
+bool Mandos::boton(std::string_view clave) {
+    for (const BotonBarra& b : BOTONES) {
+        if (b.clave != clave) continue;
+        protege(clave, [&] {
+            editor_.confirma_y_cierra();
+            b.ejecuta(e_);
+            e_.plataforma.marco.enfoca_tablero();
+        });
+        return true;
+    }
+    return false;
 }
 
 void Mandos::vista_redimensionada(int ancho, int alto) {

@@ -24,7 +24,7 @@ public:
 
     // Keys on the closed grid. A key first comes as key down; when that returns false and it has a character,
     // the character comes as key press (see base/pagina1252.h for its code). Ctrl combinations and Tab never
-    // come as key presses, nor does the Delete key.
+    // come as key presses, nor does the Delete key. Ctrl with Z, X, C or V runs undo, cut, copy or paste.
     bool tecla_abajo(int KeyCode, Modificadores mods);
     /// Returns whether the key was used.
     bool tecla_pulsada(int KeyAscii);
@@ -54,6 +54,9 @@ public:
     /// A command chosen from a menu, a toolbar or by a shortcut: commits an open editor and runs it. An item
     /// that has no command here: false, and nothing happens.
     bool orden(Opcion opcion);
+    /// A button of the toolbar by its key, "Copiar", "Pegar" or "Excel": commits an open editor, runs its
+    /// command and gives the focus back to the grid. Any other key: false.
+    bool boton(std::string_view clave);
 
     /// For asking what is open; keys and focus go through the calls above.
     EditorCelda& editor() { return editor_; }

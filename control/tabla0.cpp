@@ -7,6 +7,7 @@
 #include "control/ficheros.h"
 #include "control/guarda.h"
 #include "control/miembros.h"
+#include "control/portapapeles.h"
 #include "core/ciclo_vida.h"
 #include "core/columnas_matriz.h"
 #include "core/computos.h"
@@ -136,11 +137,9 @@ void Tabla0::crea_una_fila() {
     protege(e_, miembro("crea_una_fila"), [&] { Qlt4_Tabla::crea_una_fila(e_); });
 }
 
-// No rule yet.
-void Tabla0::Copiar_Todo() {}
+void Tabla0::Copiar_Todo() { copia_en_hoja(e_); }
 
-// No rule yet.
-void Tabla0::Copiar_todo_Excel() {}
+void Tabla0::Copiar_todo_Excel() { copia_en_hoja(e_); }
 
 // No rule yet.
 void Tabla0::Tablero_Lee_Formato_Win(const std::string&, const std::string&) {}

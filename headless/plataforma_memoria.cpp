@@ -86,8 +86,8 @@ void EventosMemoria::sucede(const std::string& evento) {
 }
 
 Plataforma PlataformaMemoria::plataforma(VistaTablero& otra_vista) {
-    return {
-        otra_vista, marco, casilla, lista, mensajes, separador, pasos, ajustes, ficheros, dialogo_fichero};
+    return {otra_vista, marco, casilla, lista, mensajes, separador, pasos, ajustes, ficheros, dialogo_fichero,
+        portapapeles, hoja_calculo};
 }
 
 } // namespace Qlt4_Tabla

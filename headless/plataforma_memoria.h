@@ -4,7 +4,7 @@
 // a test compares exact sequences:
 //   "SelChange", "CambiaCasilla", "Salir", "ACambiadoValorCombo 2 3", "mensaje|16|titulo|texto", "pitido",
 //   "puntero 11", "propiedad Rows", "captura", "restaura 1", "ajuste application|section|key=value",
-//   "dialogo_fichero abrir|title|filter|folder|name|extension"
+//   "dialogo_fichero abrir|title|filter|folder|name|extension", "hoja muestra"
 // Notices of view, labels, menus and sizes are kept or counted apart. Read on in vista_memoria.h and
 // editores_memoria.h.
 #pragma once
@@ -15,6 +15,8 @@
 #include "headless/editores_memoria.h"
 #include "headless/ficheros_memoria.h"
 #include "headless/foco_memoria.h"
+#include "headless/hoja_calculo_memoria.h"
+#include "headless/portapapeles_memoria.h"
 #include "headless/registro.h"
 #include "headless/vista_memoria.h"
 #include "platform/bolsa_propiedades.h"
@@ -179,6 +181,8 @@ struct PlataformaMemoria {
     AjustesMemoria ajustes{registro};
     FicherosMemoria ficheros;
     DialogoFicheroMemoria dialogo_fichero{registro};
+    PortapapelesMemoria portapapeles;
+    HojaCalculoMemoria hoja_calculo{registro};
     BolsaMemoria bolsa;
     EventosMemoria eventos{registro};
 

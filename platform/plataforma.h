@@ -8,9 +8,11 @@
 #include "platform/caja_texto.h"
 #include "platform/dialogo_fichero.h"
 #include "platform/ficheros.h"
+#include "platform/hoja_calculo.h"
 #include "platform/lista_desplegable.h"
 #include "platform/marco.h"
 #include "platform/mensajes.h"
+#include "platform/portapapeles.h"
 #include "platform/separador_decimal.h"
 #include "platform/vista_tablero.h"
 
@@ -27,6 +29,8 @@ struct Plataforma {
     Ajustes& ajustes;
     Ficheros& ficheros;
     DialogoFichero& dialogo_fichero;
+    Portapapeles& portapapeles;
+    HojaCalculo& hoja_calculo;
 };
 
 } // namespace Qlt4_Tabla

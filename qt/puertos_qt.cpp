@@ -39,7 +39,8 @@ PuertosQt::~PuertosQt() {
 }
 
 Plataforma PuertosQt::plataforma() {
-    return {*this, *this, *this, lista_, *this, *this, pasos_, ajustes_, ficheros_, dialogo_};
+    return {*this, *this, *this, lista_, *this, *this, pasos_, ajustes_, ficheros_, dialogo_, portapapeles_,
+        hoja_};
 }
 
 void PuertosQt::conecta(VistaRejilla& vista, Casilla& casilla, ListaCelda& lista) {

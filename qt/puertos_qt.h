@@ -7,6 +7,7 @@
 #include "headless/ficheros_disco.h"
 #include "platform/plataforma.h"
 #include "qt/ajustes_qt.h"
+#include "qt/portapapeles_qt.h"
 
 #include <QLocale>
 #include <QPointer>
@@ -101,6 +102,8 @@ private:
     AjustesQt ajustes_;
     FicherosDisco ficheros_;
     DialogoFicheroNulo dialogo_;
+    PortapapelesQt portapapeles_;
+    HojaCalculoNula hoja_;
     std::optional<bool> coma_;
     bool reloj_ = false;
 };

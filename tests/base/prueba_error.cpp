@@ -35,6 +35,7 @@ constexpr Caso casos[] = {
     {NumError::SinRuta, 76, "No se ha encontrado la ruta de acceso"},
     {NumError::SinComponente, 429, "El componente ActiveX no puede crear el objeto"},
     {NumError::ServidorPerdido, 462, "El equipo servidor remoto no existe o no está disponible"},
+    {NumError::PortapapelesCerrado, 521, "No se puede abrir el Portapapeles"},
     {NumError::ErrorAplicacion, 1004, "Error definido por la aplicación o el objeto"},
 };
 

@@ -206,8 +206,6 @@ TEST_P(FormatosTabla, MembersWithoutRuleLeaveTheTableAlone) {
     p.registro.clear();
     static_cast<void>(p.vista.recoge());
     t.A_Edicion_Columnas_Off();
-    t.Copiar_Todo();
-    t.Copiar_todo_Excel();
     t.Tablero_Lee_Formato_Win("a", "b");
     t.Tablero_Graba_Formato_Win("a", "b");
     t.A_actualizaEditor(true);

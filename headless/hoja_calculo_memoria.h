@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+// HojaCalculoMemoria: a spreadsheet in memory that records what it is asked and can fail at any step. Every
+// call but the cells is one line of the record: "hoja aplicacion", "hoja libro", "hoja primera",
+// "hoja muestra", "hoja suelta"; a call that fails is recorded first.
+#pragma once
+
+#include "headless/registro.h"
+#include "platform/hoja_calculo.h"
+
+#include <map>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace Qlt4_Tabla {
+
+class HojaCalculoMemoria final : public HojaCalculo {
+public:
+    explicit HojaCalculoMemoria(Registro& registro) : registro_(&registro) {}
+
+    std::map<std::pair<int, int>, std::string> celdas; ///< by row and column, from 1 on
+    int escritas = 0;
+    bool visible = false;
+    bool tomada = false; ///< created and not yet released
+
+    /// Every later call of this name ("aplicacion", "libro", "primera", "celda", "muestra", "suelta") raises
+    /// the error.
+    void falla_en(std::string_view paso, int numero, std::string descripcion) {
+        paso_malo_ = paso;
+        numero_ = numero;
+        descripcion_ = std::move(descripcion);
+    }
+
+    void crea_aplicacion() override {
+        da_paso("aplicacion");
+        tomada = true;
+    }
+
+    void anade_libro() override { da_paso("libro"); }
+
+    void toma_primera_hoja() override { da_paso("primera"); }
+
+    void escribe_celda(int fila, int col, std::string_view texto) override {
+        falla("celda");
+        ++escritas;
+        celdas[{fila, col}] = texto;
+    }
+
+    void muestra() override {
+        da_paso("muestra");
+        visible = true;
+    }
+
+    void suelta() override {
+        tomada = false;
+        da_paso("suelta");
+    }
+
+private:
+    void da_paso(std::string_view paso) {
+        registro_->push_back("hoja " + std::string(paso));
+        falla(paso);
+    }
+
+    void falla(std::string_view paso) const {
+        if (paso == paso_malo_) throw Error(numero_, descripcion_);
+    }
+
+    Registro* registro_;
+    std::string paso_malo_;
+    int numero_ = 0;
+    std::string descripcion_;
+};
+
+} // namespace Qlt4_Tabla
