@@ -54,6 +54,7 @@ void Tablero::Cols(int n) {
     con_memoria([&] { columnas_.resize(static_cast<std::size_t>(n)); });
     almacen_.pon_columnas(n);
     imagenes_.quita_columnas(n);
+    recorta();
     avisos_.columnas_cambiadas();
     ajusta();
 }
@@ -75,6 +76,7 @@ void Tablero::borra_filas(int fila, int n) {
     if (n == 0) return;
     almacen_.borra(fila, n);
     imagenes_.borra_filas(fila, n);
+    recorta();
     avisos_.filas_borradas(fila, n);
     avisa({fila, 0, Rows() - 1, 0});
     ajusta();
@@ -86,6 +88,7 @@ void Tablero::borra_varias_filas(std::span<const int> filas) {
     comprueba_fila(filas.back());
     almacen_.borra_varias(filas);
     imagenes_.borra_varias_filas(filas);
+    recorta();
     if (filas.back() - filas.front() + 1 == static_cast<int>(filas.size()))
         avisos_.filas_borradas(filas.front(), static_cast<int>(filas.size()));
     else
@@ -190,8 +193,9 @@ void Tablero::pon_vista(int ancho, int alto) {
     ajusta();
 }
 
-// Brings the current cell, the selection and the part that is seen back into what there is.
-void Tablero::ajusta() {
+// Brings the current cell, the selection and the part that is seen back into what there is. Done before any
+// notice, so that a view that reads the grid in one never meets a place that is gone.
+void Tablero::recorta() {
     const int fila = std::max(0, Rows() - 1);
     const int col = std::max(0, Cols() - 1);
     cursor_ = {std::min(cursor_.fila, fila), std::min(cursor_.col, col), std::min(cursor_.fila_sel, fila),
@@ -201,6 +205,10 @@ void Tablero::ajusta() {
     const std::int64_t sobra = std::max<std::int64_t>(0, ancho - ancho_vista_);
     parte_.desplazamiento = static_cast<int>(std::min<std::int64_t>(parte_.desplazamiento, sobra));
     parte_.fila_superior = std::min(parte_.fila_superior, std::max(1, Rows() - 1));
+}
+
+void Tablero::ajusta() {
+    recorta();
     avisa_cursor();
     avisa_parte();
 }

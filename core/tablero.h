@@ -210,6 +210,7 @@ private:
     void comprueba(int fila, int col) const;
     void comprueba(const Bloque& bloque) const;
     void comprueba_tamano(std::int64_t filas, std::int64_t columnas) const;
+    void recorta();
     void ajusta();
     void avisa_cursor();
     void avisa_parte();
