@@ -7,6 +7,7 @@
 #include "qt/teclas_qt.h"
 #include "qt/vista_rejilla.h"
 
+#include <QHideEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 
@@ -48,6 +49,7 @@ void Casilla::muestra(const QRect& celda, const QString& texto) {
     }
     setText(texto);
     setAccessibleName(lugar_de_celda(vista_.tabla(), vista_.tablero().Row(), col));
+    vista_.editor_mostrado();
     show();
     setFocus(Qt::OtherFocusReason);
 }
@@ -93,6 +95,12 @@ void Casilla::inputMethodEvent(QInputMethodEvent* e) {
 void Casilla::focusOutEvent(QFocusEvent* e) {
     QLineEdit::focusOutEvent(e);
     mandos().casilla_pierde_foco(motivo_de(e->reason()));
+}
+
+// A window that is hidden takes the focus away too late to know why.
+void Casilla::hideEvent(QHideEvent* e) {
+    QLineEdit::hideEvent(e);
+    if (!e->spontaneous()) vista_.editor_oculto();
 }
 
 bool Casilla::focusNextPrevChild(bool siguiente) {

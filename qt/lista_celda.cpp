@@ -8,8 +8,8 @@
 #include "qt/vista_rejilla.h"
 
 #include <QAbstractItemView>
+#include <QHideEvent>
 #include <QKeyEvent>
-#include <QMouseEvent>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -25,7 +25,9 @@ ListaCelda::ListaCelda(VistaRejilla& vista)
     setFocusPolicy(Qt::ClickFocus);
     setInsertPolicy(QComboBox::NoInsert);
     view()->installEventFilter(this);
-    view()->viewport()->installEventFilter(this);
+    connect(this, &QComboBox::activated, this, [this] {
+        if (!tecleando_) mandos().clic_lista();
+    });
     label1_->hide();
     hide();
 }
@@ -45,6 +47,7 @@ void ListaCelda::muestra(const QRect& celda, const QStringList& entradas, int el
     setCurrentIndex(elegida);
     setAccessibleName(lugar_de_celda(vista_.tabla(), vista_.tablero().Row(), vista_.tablero().Col()));
     mueve(celda);
+    vista_.editor_mostrado();
     label1_->show();
     show();
     raise();
@@ -73,31 +76,24 @@ void ListaCelda::keyPressEvent(QKeyEvent* e) {
     for (const int codigo : codigos_tecleados(*e)) {
         if (mandos().tecla_lista(codigo) == 0) return;
     }
+    tecleando_ = true;
     QComboBox::keyPressEvent(e);
+    tecleando_ = false;
     e->accept(); // a key that the list could not use is not a key of the grid
 }
 
 // The dropped list is a window of its own: Enter, Space and Escape there mean what they mean in the
-// closed list, and a click on an entry chooses it and gives the focus back to the grid.
+// closed list. The toolkit would choose already on the question whether the key is a shortcut.
 bool ListaCelda::eventFilter(QObject* objeto, QEvent* e) {
-    if (objeto == view() && e->type() == QEvent::KeyPress) {
+    const bool pulsada = e->type() == QEvent::KeyPress;
+    if (objeto == view() && (pulsada || e->type() == QEvent::ShortcutOverride)) {
         const std::vector<int> codigos = codigos_tecleados(*static_cast<QKeyEvent*>(e));
         const int codigo = codigos.empty() ? 0 : codigos.front();
         if (codigo == teclas::INTRO || codigo == teclas::ESPACIO || codigo == teclas::ESCAPE) {
-            if (codigo != teclas::ESCAPE && view()->currentIndex().isValid())
+            e->accept();
+            if (pulsada && codigo != teclas::ESCAPE && view()->currentIndex().isValid())
                 setCurrentIndex(view()->currentIndex().row());
-            hidePopup();
-            mandos().tecla_lista(codigo);
-            return true;
-        }
-    }
-    if (objeto == view()->viewport() && e->type() == QEvent::MouseButtonRelease) {
-        const QPoint sitio = static_cast<QMouseEvent*>(e)->position().toPoint();
-        const QModelIndex entrada = view()->indexAt(sitio);
-        if (entrada.isValid() && view()->isVisible()) {
-            setCurrentIndex(entrada.row());
-            hidePopup();
-            mandos().clic_lista();
+            if (pulsada) mandos().tecla_lista(codigo);
             return true;
         }
     }
@@ -106,7 +102,14 @@ bool ListaCelda::eventFilter(QObject* objeto, QEvent* e) {
 
 void ListaCelda::focusOutEvent(QFocusEvent* e) {
     QComboBox::focusOutEvent(e);
-    mandos().lista_pierde_foco(motivo_de(e->reason()));
+    // The dropped list takes the focus for itself.
+    const bool propia = view()->hasFocus();
+    mandos().lista_pierde_foco(propia ? MotivoFoco::Menu : motivo_de(e->reason()));
+}
+
+void ListaCelda::hideEvent(QHideEvent* e) {
+    QComboBox::hideEvent(e);
+    if (!e->spontaneous()) vista_.editor_oculto();
 }
 
 bool ListaCelda::focusNextPrevChild(bool siguiente) {

@@ -28,6 +28,7 @@ protected:
     bool event(QEvent* e) override;
     void keyPressEvent(QKeyEvent* e) override;
     void focusOutEvent(QFocusEvent* e) override;
+    void hideEvent(QHideEvent* e) override;
     bool focusNextPrevChild(bool siguiente) override;
     bool eventFilter(QObject* objeto, QEvent* e) override;
     void wheelEvent(QWheelEvent* e) override;
@@ -36,6 +37,7 @@ private:
     [[nodiscard]] Mandos& mandos();
 
     VistaRejilla& vista_;
+    bool tecleando_ = false; // an entry chosen now was chosen with a key
     QLabel* label1_; // the viewport's child, beside the list
 };
 

@@ -35,7 +35,7 @@ Boton boton_de(Qt::MouseButton b) {
 
 VistaRejilla::VistaRejilla(Tabla0& tabla, QWidget* padre) : QAbstractScrollArea(padre), tabla_(tabla) {
     setObjectName(QStringLiteral("Tablero"));
-    setFocusPolicy(Qt::StrongFocus);
+    setFocusPolicy(Qt::TabFocus); // and by a click, but not on a column's edge: see mousePressEvent
     setAttribute(Qt::WA_InputMethodEnabled);
     setContextMenuPolicy(Qt::PreventContextMenu);
     viewport()->setMouseTracking(true);
@@ -46,6 +46,32 @@ VistaRejilla::VistaRejilla(Tabla0& tabla, QWidget* padre) : QAbstractScrollArea(
     horizontalScrollBar()->setSingleStep(PASO_HORIZONTAL_PX);
     mide_filas();
     todo_cambiado();
+}
+
+// --- The editors over it ---
+
+void VistaRejilla::editor_mostrado() {
+    clase_ventana_ = window()->metaObject();
+    window()->installEventFilter(this);
+}
+
+// A window that is being destroyed hides too, but is no more of its own class: the host behind it is half
+// gone and must not hear of a value.
+void VistaRejilla::editor_oculto() {
+    if (window()->metaObject() == clase_ventana_)
+        confirma_editor();
+    else
+        tabla_.mandos().editor().descarta();
+}
+
+void VistaRejilla::confirma_editor() {
+    tabla_.mandos().casilla_pierde_foco(MotivoFoco::Otro);
+    tabla_.mandos().lista_pierde_foco(MotivoFoco::Otro);
+}
+
+bool VistaRejilla::eventFilter(QObject* objeto, QEvent* e) {
+    if (e->type() == QEvent::Close && objeto == window()) confirma_editor();
+    return QAbstractScrollArea::eventFilter(objeto, e);
 }
 
 // --- What the grid tells ---
@@ -91,9 +117,10 @@ void VistaRejilla::celdas_cambiadas(int fila1, int col1, int fila2, int col2) {
 void VistaRejilla::filas_cambiadas(int desde) {
     pon_barras();
     dibujado_.seleccion = tablero().seleccion();
-    const int y = std::max(0, rect_celda(std::max(desde, tablero().TopRow()), 0).top());
+    const int y = unidades().px_y(y_fila(tablero(), std::max(desde, tablero().TopRow()))); // may be the end
     if (y < viewport()->height()) repinta(QRect(0, y, viewport()->width(), viewport()->height() - y));
     if (tablero().hay_altos()) viewport()->update();
+    tabla_.mandos().recoloca_editor();
 }
 
 void VistaRejilla::seleccion_cambiada() {
@@ -266,7 +293,8 @@ int VistaRejilla::borde_bajo(const QPointF& px) const {
 
 void VistaRejilla::mousePressEvent(QMouseEvent* e) {
     columna_en_mano_ = e->button() == Qt::LeftButton ? borde_bajo(e->position()) : -1;
-    if (columna_en_mano_ >= 0) return;
+    if (columna_en_mano_ >= 0) return; // an open editor stays open and follows the width
+    setFocus(Qt::MouseFocusReason);
     const QPoint p = a_twips(e->position());
     tabla_.mandos().raton_abajo(p.x(), p.y(), boton_de(e->button()), modificadores(e->modifiers()));
 }

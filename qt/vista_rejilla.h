@@ -31,6 +31,11 @@ public:
     /// Tab pressed in an open editor: the focus goes on from the grid, as in any form.
     bool sale_por_tabulador(bool siguiente) { return focusNextPrevChild(siguiente); }
 
+    /// An editor is about to be shown over a cell. Closing the window commits it before the host hears of it.
+    void editor_mostrado();
+    /// An editor, open or not, was hidden: itself, with the table, with a parent or the window. Commits.
+    void editor_oculto();
+
     // What the grid tells; each asks for the smallest repaint.
     void celdas_cambiadas(int fila1, int col1, int fila2, int col2);
     void filas_cambiadas(int desde);
@@ -46,6 +51,7 @@ signals:
 
 protected:
     bool event(QEvent* e) override;
+    bool eventFilter(QObject* objeto, QEvent* e) override;
     bool viewportEvent(QEvent* e) override;
     void paintEvent(QPaintEvent* e) override;
     void resizeEvent(QResizeEvent* e) override;
@@ -81,6 +87,7 @@ private:
     void repinta(const QRect& zona);
     void repinta_filas(int fila1, int fila2);
     [[nodiscard]] bool columna_numerica() const;
+    void confirma_editor();
 
     Tabla0& tabla_;
     Dibujado dibujado_;
@@ -89,6 +96,7 @@ private:
     int rueda_y_ = 0; // wheel steps of less than a notch, added up
     int rueda_x_ = 0;
     bool poniendo_barras_ = false;
+    const QMetaObject* clase_ventana_ = nullptr; // of the window that the editor was shown on
 };
 
 } // namespace Qlt4_Tabla
