@@ -96,6 +96,18 @@ std::int32_t Color_Matrix_en_VB(EstadoTabla& e, std::int32_t fila, std::int32_t 
     return paleta_a_pantalla(entero16_de_texto(numero));
 }
 
+void pon_color(EstadoTabla& e, const Bloque& celdas, std::string_view nombre, std::int32_t fondo) {
+    Tablero& t = e.tablero;
+    const RedibujoSuspendido suspendido(t);
+    for (int col = celdas.col1; col <= celdas.col2; ++col)
+        t.transforma_columna(
+            col, celdas.fila1, celdas.fila2, [&](int, std::string_view texto, std::string& nuevo) {
+                nuevo = nombre;
+                return nuevo != texto;
+            });
+    if (e.edicionColor) t.color_fondo(celdas, fondo);
+}
+
 void Color_Matrix_en_Cad(EstadoTabla& e, std::int32_t fila, std::int32_t colm, std::int32_t valor) {
     if (rechaza_negativo(e, valor)) return;
     pon_valor(e, fila, colm, numero_a_nombre(valor), valor);

@@ -8,6 +8,7 @@
 #include "core/estado_tabla.h"
 
 #include <cstdint>
+#include <string_view>
 
 namespace Qlt4_Tabla {
 
@@ -40,5 +41,9 @@ void Color_Matrix_de_Cad(EstadoTabla& e, std::int32_t fila, std::int32_t colm, s
 void Color_Matrix_en_Cad_dado_N_VB(EstadoTabla& e, std::int32_t fila, std::int32_t colm, std::int32_t valor);
 /// A palette index.
 void Color_Matrix_en_Cad_dado_N_cad(EstadoTabla& e, std::int32_t fila, std::int32_t colm, std::int16_t valor);
+
+/// Many colour cells at once: all take the text, and the background where colour cells are painted. Nothing
+/// is selected. Error 9: a cell outside the grid, before any change.
+void pon_color(EstadoTabla& e, const Bloque& celdas, std::string_view nombre, std::int32_t fondo);
 
 } // namespace Qlt4_Tabla

@@ -161,7 +161,8 @@ public:
     virtual void Show_Eleige_Color(const std::string& NumColorPreSeleccVb, bool PorCapa,
         std::int32_t NumColorPorCapaPreSeleccVb, bool Expandircolores, std::int32_t& NumColorElegiVB,
         std::int32_t& NumColorAutocad, std::string& NomColorAutocad) = 0;
-    /// (-) The colour picker: the chosen screen colour, or the one given.
+    /// The colour picker: the chosen screen colour, or the one given when it was cancelled. An error is shown
+    /// in words of its own, "ERROR en Vdk_Sys.DLL Nº...".
     [[nodiscard]] virtual std::int32_t Show_Elige_Color(std::int32_t NumColorElegiVB) = 0;
     /// Background of one cell, which becomes current. Get: 0 when never set. Outside: nothing, get 0.
     virtual void Color_Matrix(std::int32_t fila, std::int32_t colm, std::int32_t valor) = 0;

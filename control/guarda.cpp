@@ -44,6 +44,7 @@ void trata_error(Mensajes& mensajes, const FormaMensaje& forma, const ErroresAlL
     texto += numero_a_texto(error.numero());
     texto += forma.antes_de_descripcion;
     texto += error.descripcion();
+    texto += forma.al_final;
     mensajes.mensaje(texto, forma.estilo, {});
 }
 

@@ -54,11 +54,12 @@ private:
 /// What the message of a member begins with: "Tabla ", its name, " - Error nº ".
 [[nodiscard]] std::string prefijo_miembro(std::string_view miembro);
 
-/// The message of an error: `prefijo`, number, `antes_de_descripcion`, description.
+/// The message of an error: `prefijo`, number, `antes_de_descripcion`, description, `al_final`.
 struct FormaMensaje {
     std::string prefijo;
     std::string_view antes_de_descripcion;
     EstiloMensaje estilo = EstiloMensaje::Critico;
+    std::string_view al_final = {};
 };
 
 /// Inside a handler only: throws on the error being handled when `pasan` holds its number, else shows

@@ -4,10 +4,12 @@
 #include "control/tabla0.h"
 
 #include "colours/celdas.h"
+#include "colours/selector_color.h"
 #include "control/ficheros.h"
 #include "control/guarda.h"
 #include "control/miembros.h"
 #include "control/portapapeles.h"
+#include "control/textos.h"
 #include "core/ciclo_vida.h"
 #include "core/columnas_matriz.h"
 #include "core/computos.h"
@@ -337,8 +339,16 @@ void Tabla0::m__Asigna_Matriz_Alfanume_a_Columna(std::int32_t columna, const Mat
 void Tabla0::Show_Eleige_Color(
     const std::string&, bool, std::int32_t, bool, std::int32_t&, std::int32_t&, std::string&) {}
 
-// No rule yet.
-std::int32_t Tabla0::Show_Elige_Color(std::int32_t NumColorElegiVB) { return NumColorElegiVB; }
+std::int32_t Tabla0::Show_Elige_Color(std::int32_t NumColorElegiVB) {
+    const auto forma = [] {
+        return FormaMensaje{std::string(textos::prefijo_color), textos::antes_de_descripcion_color,
+            EstiloMensaje::Critico, textos::lugar_color};
+    };
+    std::int32_t color = NumColorElegiVB;
+    guarda_con_forma(e_.plataforma.mensajes, forma, miembro("Show_Elige_Color").errores,
+        [&] { static_cast<void>(elige_color(e_, color)); });
+    return color;
+}
 
 void Tabla0::Color_Matrix(std::int32_t fila, std::int32_t colm, std::int32_t valor) {
     protege(e_, miembro("Color_Matrix"), [&] { Qlt4_Tabla::Color_Matrix(e_, fila, colm, valor); });

@@ -13,6 +13,11 @@ inline constexpr std::string_view antes_de_miembro = "Tabla ";
 inline constexpr std::string_view antes_de_numero = " - Error nº ";
 inline constexpr std::string_view antes_de_descripcion = ": ";
 
+// Of the colour picker: "ERROR en Vdk_Sys.DLL Nº75", a new line, a blank, the description, a new line, its place.
+inline constexpr std::string_view prefijo_color = "ERROR en Vdk_Sys.DLL Nº";
+inline constexpr std::string_view antes_de_descripcion_color = "\r\n ";
+inline constexpr std::string_view lugar_color = "\r\n.S_color";
+
 inline constexpr std::string_view miembro_desconocido = "El objeto no admite esta propiedad o método";
 inline constexpr std::string_view argumentos_incorrectos =
     "Número de argumentos incorrecto o asignación de propiedad no válida";

@@ -7,6 +7,7 @@
 #include "core/estado_menus.h"
 #include "core/etiquetas.h"
 #include "core/formato_columna.h"
+#include "core/menu_cambio.h"
 #include "core/nombres_tabla.h"
 #include "core/revoca.h"
 #include "core/tablero.h"
@@ -34,6 +35,7 @@ struct EstadoTabla {
     NombresTabla nombres;
     Etiquetas etiquetas;
     EstadoMenus menus;
+    MenuCambio menu_cambio;
     Revoca revoca;
 
     std::int16_t Modificado = 0; ///< 1 after a change by the user that is not saved

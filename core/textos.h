@@ -42,6 +42,10 @@ inline constexpr std::array<std::string_view, 29> titulos_menu{
     "Pegar",
 };
 
+// The items that the menu of changing entries always has.
+inline constexpr std::string_view menu_cancelar = "Cancelar";
+inline constexpr std::string_view menu_separador = "-";
+
 // Captions of undo and redo with a step count: this, the number, ")".
 inline constexpr std::string_view deshacer_paso = "&Deshacer (";
 inline constexpr std::string_view rehacer_paso = "Reh&acer (";

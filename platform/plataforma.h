@@ -6,6 +6,7 @@
 #include "platform/ajustes.h"
 #include "platform/almacen_pasos.h"
 #include "platform/caja_texto.h"
+#include "platform/dialogo_color.h"
 #include "platform/dialogo_fichero.h"
 #include "platform/ficheros.h"
 #include "platform/hoja_calculo.h"
@@ -31,6 +32,7 @@ struct Plataforma {
     DialogoFichero& dialogo_fichero;
     Portapapeles& portapapeles;
     HojaCalculo& hoja_calculo;
+    DialogoColor& dialogo_color;
 };
 
 } // namespace Qlt4_Tabla

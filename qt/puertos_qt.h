@@ -104,6 +104,7 @@ private:
     DialogoFicheroNulo dialogo_;
     PortapapelesQt portapapeles_;
     HojaCalculoNula hoja_;
+    DialogoColorNulo dialogo_color_;
     std::optional<bool> coma_;
     bool reloj_ = false;
 };

@@ -103,4 +103,42 @@ TEST_P(Colores, ATextThatIsNoColourRaisesItsErrorToTheCaller) {
     EXPECT_TRUE(p.mensajes.vistos.empty());
 }
 
+// --- The picker ---
+
+TEST_P(Colores, ThePickerGivesTheChosenColour) {
+    p.dialogo_color.usuario.push_back([](ModeloColor& m) {
+        clic_en_muestra(m, 14);
+        m.boton(BotonColor::Aceptar);
+    });
+    EXPECT_EQ(t.Show_Elige_Color(0x0000FF), 0x000098);
+    EXPECT_EQ(p.dialogo_color.vistos.back().titulo, "Elige Color:");
+    EXPECT_EQ(p.dialogo_color.vistos.back().texto, "rojo");
+    EXPECT_EQ(t.Show_Elige_Color(0x123456), 0x123456); // cancelled
+}
+
+TEST_P(Colores, APreselectedBlackCannotBeAccepted) {
+    p.dialogo_color.usuario.push_back([](ModeloColor& m) {
+        m.boton(BotonColor::Aceptar);
+        EXPECT_EQ(m.visto().error, "Color no válido");
+        EXPECT_TRUE(m.visto().abierto);
+    });
+    EXPECT_EQ(t.Show_Elige_Color(0), 0);
+    EXPECT_EQ(p.mensajes.pitidos, 1);
+}
+
+TEST_P(Colores, AnErrorOfThePickerIsToldInItsOwnWordsAndTheChoiceKept) {
+    p.ajustes.falla(75);
+    p.dialogo_color.usuario.push_back([](ModeloColor& m) { m.boton(BotonColor::Aceptar); });
+    EXPECT_EQ(t.Show_Elige_Color(0x0000FF), 0x0000FF);
+    p.dialogo_color.usuario.push_back([](ModeloColor& m) {
+        m.teclea("azul");
+        m.boton(BotonColor::Aceptar);
+    });
+    EXPECT_EQ(t.Show_Elige_Color(0x0000FF), 0xFF0000);
+    const std::string esperado =
+        "ERROR en Vdk_Sys.DLL Nº75\r\n Error de acceso a la ruta o al archivo\r\n.S_color";
+    EXPECT_EQ(
+        p.mensajes.vistos, (std::vector<MensajesMemoria::Visto>(2, {esperado, EstiloMensaje::Critico, ""})));
+}
+
 } // namespace

@@ -209,7 +209,6 @@ TEST_P(FormatosTabla, MembersWithoutRuleLeaveTheTableAlone) {
     t.Tablero_Lee_Formato_Win("a", "b");
     t.Tablero_Graba_Formato_Win("a", "b");
     t.A_actualizaEditor(true);
-    EXPECT_EQ(t.Show_Elige_Color(0x123456), 0x123456);
     EXPECT_TRUE(p.vista.avisos.empty());
     EXPECT_TRUE(p.registro.empty());
 }
