@@ -51,7 +51,7 @@ public:
 
     /// Grows with empty, unnumbered rows at the end or drops rows there. n >= 0.
     void pon_filas(int n);
-    /// Grows with empty columns at the end or drops columns there. n >= 0.
+    /// Grows with empty columns at the end or drops columns there; without columns no row is numbered. n >= 0.
     void pon_columnas(int n);
 
     /// The text of a cell inside the grid (not checked). The view holds until the table changes or the

@@ -285,7 +285,7 @@ TEST_P(Almacen_al_azar, hace_lo_mismo_que_el_modelo) {
 INSTANTIATE_TEST_SUITE_P(, Almacen_al_azar,
     testing::Values(Medida{"pequena", 12, 4, 300, 4000}, Medida{"larga", 1500, 6, 300, 800},
         Medida{"ancha", 30, 300, 300, 800}, Medida{"pesada", 400, 12, 2000, 600},
-        Medida{"muy_ancha", 4, 5000, 400, 60}),
+        Medida{"muy_ancha", 4, 5000, 400, 30}),
     [](const auto& medida) { return medida.param.nombre; });
 
 } // namespace
