@@ -213,11 +213,19 @@ void PintorRejilla::pinta_marco() {
     const int x0 = t_.Col() == 0 ? 0 : u_.px_x(t_.ancho_visible(0));
     const int y0 = t_.Row() == 0 ? 0 : u_.px_y(t_.RowHeight(0));
     p_.setClipRect(QRect(x0, y0, ventana_.width(), ventana_.height()), Qt::IntersectClip);
-    const int g = MARCO_PX;
-    p_.fillRect(QRect(r.left(), r.top(), r.width(), g), realce_);
-    p_.fillRect(QRect(r.left(), r.bottom() - g + 1, r.width(), g), realce_);
-    p_.fillRect(QRect(r.left(), r.top(), g, r.height()), realce_);
-    p_.fillRect(QRect(r.right() - g + 1, r.top(), g, r.height()), realce_);
+    // On a background of the cell's own, a thin line inside keeps the frame in sight.
+    if (t_.tiene_fondo(t_.Row(), t_.Col())) {
+        const QRect dentro = r.adjusted(MARCO_PX, MARCO_PX, -MARCO_PX, -MARCO_PX);
+        pinta_borde(dentro, 1, contraste(fondo(t_.Row(), t_.Col())));
+    }
+    pinta_borde(r, MARCO_PX, realce_);
+}
+
+void PintorRejilla::pinta_borde(const QRect& r, int grueso, const QColor& color) {
+    p_.fillRect(QRect(r.left(), r.top(), r.width(), grueso), color);
+    p_.fillRect(QRect(r.left(), r.bottom() - grueso + 1, r.width(), grueso), color);
+    p_.fillRect(QRect(r.left(), r.top(), grueso, r.height()), color);
+    p_.fillRect(QRect(r.right() - grueso + 1, r.top(), grueso, r.height()), color);
 }
 
 } // namespace Qlt4_Tabla

@@ -54,6 +54,7 @@ private:
     void pinta_texto(const QRect& sitio, int col, std::string_view texto, const QColor& color);
     void pinta_lineas(const QRect& celda, bool fija);
     void pinta_marco();
+    void pinta_borde(const QRect& r, int grueso, const QColor& color);
     void pinta_fuera(const QRect& sucio);
     [[nodiscard]] QColor fondo(int fila, int col) const;
     [[nodiscard]] QColor color_texto(int fila, int col, const QColor& fondo) const;

@@ -6,6 +6,7 @@
 #include "qt/casilla.h"
 #include "qt/lista_celda.h"
 #include "qt/tabla_widget.h"
+#include "qt/textos.h"
 #include "qt/vista_rejilla.h"
 
 #include <QApplication>
@@ -201,11 +202,17 @@ Respuesta PuertosQt::mensaje(std::string_view texto, EstiloMensaje estilo, std::
     const bool critico = estilo == EstiloMensaje::Critico || estilo == EstiloMensaje::CriticoSiNo;
     if (critico) caja.setIcon(QMessageBox::Critical);
     if (estilo == EstiloMensaje::Informacion) caja.setIcon(QMessageBox::Information);
+    // Qt would name the buttons in the language of the system, or in English.
+    const auto nombra = [&caja](QMessageBox::StandardButton boton, std::string_view nombre) {
+        caja.addButton(boton)->setText(a_q(nombre));
+    };
     if (estilo != EstiloMensaje::CriticoSiNo) {
+        nombra(QMessageBox::Ok, textos::aceptar);
         caja.exec();
         return Respuesta::Aceptar;
     }
-    caja.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    nombra(QMessageBox::Yes, textos::si);
+    nombra(QMessageBox::No, textos::no);
     caja.setEscapeButton(QMessageBox::No);
     return caja.exec() == QMessageBox::Yes ? Respuesta::Si : Respuesta::No;
 }

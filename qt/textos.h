@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: MIT
-// Texts of this folder that a user hears from an assistive program: the names of the table, its cells and
-// the editors over them ("X, fila 3, 12.500, bloqueada").
+// Texts of this folder: the buttons of message boxes, and what a user hears from an assistive program: the
+// names of the table, its cells and the editors over them ("X, fila 3, 12.500, bloqueada").
 #pragma once
 
 #include <string_view>
 
 namespace Qlt4_Tabla::textos {
+
+// Buttons of a message box; "&" marks the key.
+inline constexpr std::string_view aceptar = "Aceptar";
+inline constexpr std::string_view si = "&Sí";
+inline constexpr std::string_view no = "&No";
 
 /// A table without a title.
 inline constexpr std::string_view tabla = "Tabla";
