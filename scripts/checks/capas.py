@@ -31,6 +31,8 @@ def permisos(ruta):
     todas = set(FILAS) | {"tests"}
     if probada == "qt":
         return "tests/qt", todas, True, True
+    if probada == "tools":
+        return "tests/tools", todas - {"qt"} | {"tools"}, False, True
     if probada in FILAS:
         return f"tests/{probada}", FILAS[probada] | {probada, "headless", "platform", "base", "tests"}, False, True
     return f"tests/{probada}", todas - {"qt"}, False, True

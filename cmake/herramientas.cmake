@@ -1,0 +1,46 @@
+# SPDX-License-Identifier: MIT
+# tools/<name>/*.cpp: one program <name> each, built on the core without Qt. All but principal.cpp is
+# also a library, which tests/tools/<name>/*.cpp tests beside the program itself. Installed with its
+# manual page <name>.1 and its completion for bash.
+
+include(GNUInstallDirs)
+file(GLOB carpetas CONFIGURE_DEPENDS LIST_DIRECTORIES true ${PROJECT_SOURCE_DIR}/tools/*)
+foreach(carpeta IN LISTS carpetas)
+  file(GLOB fuentes CONFIGURE_DEPENDS ${carpeta}/*.cpp)
+  if(NOT fuentes)
+    continue()
+  endif()
+  get_filename_component(nombre ${carpeta} NAME)
+  list(REMOVE_ITEM fuentes ${carpeta}/principal.cpp)
+  add_library(herramienta_${nombre} STATIC ${fuentes})
+  add_executable(${nombre} ${carpeta}/principal.cpp)
+  tabla_ruta_incluye(ruta ${PROJECT_SOURCE_DIR}/tools tools)
+  foreach(objetivo herramienta_${nombre} ${nombre})
+    tabla_comun(${objetivo})
+    target_include_directories(${objetivo} PRIVATE ${ruta})
+  endforeach()
+  target_compile_definitions(herramienta_${nombre} PRIVATE "TABLA_VERSION=\"${PROJECT_VERSION}\"")
+  target_link_libraries(herramienta_${nombre} PUBLIC tabla_files tabla_headless)
+  target_link_libraries(${nombre} PRIVATE herramienta_${nombre})
+  install(TARGETS ${nombre} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT herramientas)
+  if(EXISTS ${carpeta}/${nombre}.1)
+    install(FILES ${carpeta}/${nombre}.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT herramientas)
+  endif()
+  if(EXISTS ${carpeta}/${nombre}.bash)
+    install(FILES ${carpeta}/${nombre}.bash RENAME ${nombre}
+      DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT herramientas)
+  endif()
+
+  if(TABLA_PRUEBAS)
+    file(GLOB pruebas CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/tools/${nombre}/*.cpp)
+    if(pruebas)
+      add_executable(prueba_herramienta_${nombre} ${pruebas})
+      tabla_prueba(prueba_herramienta_${nombre} herramienta_${nombre} GTest::gtest_main GTest::gmock)
+      target_include_directories(prueba_herramienta_${nombre} PRIVATE ${ruta})
+      target_compile_definitions(prueba_herramienta_${nombre} PRIVATE "TABLA_PROGRAMA=\"$<TARGET_FILE:${nombre}>\"")
+      add_dependencies(prueba_herramienta_${nombre} ${nombre})
+      gtest_discover_tests(prueba_herramienta_${nombre} TEST_PREFIX tools.${nombre}. DISCOVERY_MODE PRE_TEST
+        DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120 ENVIRONMENT "LC_ALL=C.UTF-8")
+    endif()
+  endif()
+endforeach()
