@@ -136,9 +136,7 @@ void EditorCelda::lista_pierde_foco(MotivoFoco motivo) {
 }
 
 void EditorCelda::confirma_y_cierra() {
-    if (!abierto()) return;
-    confirma_y_oculta();
-    if (!abierto()) enfoca();
+    if (abierto()) y_enfoca([this] { confirma_y_oculta(); });
 }
 
 void EditorCelda::descarta() {
@@ -262,13 +260,20 @@ void EditorCelda::confirma_y_avanza() {
         descarta();
         return;
     }
-    if (abierta_lista())
-        escribe_eleccion();
-    else
-        confirma_y_oculta();
-    if (abierto()) return; // the host opened another
+    y_enfoca([this] {
+        if (abierta_lista())
+            escribe_eleccion();
+        else
+            confirma_y_oculta();
+        if (!abierto()) avanza_(); // unless the host opened another
+    });
+}
+
+// The grid takes the focus afterwards, also after an error, unless the host opened an editor.
+template <class F>
+void EditorCelda::y_enfoca(F&& hace) {
     try {
-        avanza_();
+        hace();
     } catch (...) {
         if (!abierto()) enfoca();
         throw;

@@ -87,6 +87,8 @@ private:
     void confirma(const std::string& texto, bool escribe);
     void confirma_y_oculta(); // leaves the focus where it is
     void confirma_y_avanza(); // Enter and Space, open or closed
+    template <class F>
+    void y_enfoca(F&& hace); // runs it, then gives the focus to the grid
     int filtra(int KeyAscii);
     [[nodiscard]] bool existe_celda() const;
     void cierra();

@@ -240,6 +240,16 @@ TEST_F(PruebaEditor, un_error_al_confirmar_cierra_la_casilla) {
     EXPECT_EQ(e.Modificado, 0);
 }
 
+TEST_F(PruebaEditor, un_error_al_confirmar_deja_el_foco_en_el_tablero) {
+    p.pasos.al_capturar = [] { lanza(NumError::SinMemoria); };
+    edita(1, 3, "2");
+    EXPECT_EQ(error_de([&] { editor.tecla_casilla(teclas::INTRO); }), 7);
+    EXPECT_EQ(p.foco.actual(), Foco::Tablero);
+    edita(1, 3, "2");
+    EXPECT_EQ(error_de([&] { editor.confirma_y_cierra(); }), 7);
+    EXPECT_EQ(p.foco.actual(), Foco::Tablero);
+}
+
 TEST_F(PruebaEditor, un_error_al_avanzar_deja_el_foco_en_el_tablero) {
     edita(4, 3, "2");
     p.pasos.al_capturar = [this] {
