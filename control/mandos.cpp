@@ -228,6 +228,7 @@ bool Mandos::orden(Opcion opcion) {
     if (o == ORDENES.end()) return false;
     protege(o->nombre, [&] {
         editor_.confirma_y_cierra();
+        termina_mensaje(e_);
         o->ejecuta(e_);
     });
     return true;
@@ -238,6 +239,7 @@ bool Mandos::boton(std::string_view clave) {
         if (b.clave != clave) continue;
         protege(clave, [&] {
             editor_.confirma_y_cierra();
+            termina_mensaje(e_);
             b.ejecuta(e_);
             e_.plataforma.marco.enfoca_tablero();
         });

@@ -51,11 +51,11 @@ public:
     /// To be called when a notice of the view says that widths, heights, rows or the place of the view changed.
     void recoloca_editor();
 
-    /// A command chosen from a menu, a toolbar or by a shortcut: commits an open editor and runs it. An item
-    /// that has no command here: false, and nothing happens.
+    /// A command chosen from a menu, a toolbar or by a shortcut: commits an open editor, ends a message in
+    /// labMensaje and runs it. An item that has no command here: false, and nothing happens.
     bool orden(Opcion opcion);
-    /// A button of the toolbar by its key, "Copiar", "Pegar" or "Excel": commits an open editor, runs its
-    /// command and gives the focus back to the grid. Any other key: false.
+    /// A button of the toolbar by its key, "Copiar", "Pegar" or "Excel": the same, then the focus goes back
+    /// to the grid. Any other key: false.
     bool boton(std::string_view clave);
 
     /// For asking what is open; keys and focus go through the calls above.

@@ -81,6 +81,16 @@ TEST_F(PruebaMandos, una_opcion_sin_orden_no_hace_nada) {
     EXPECT_THAT(p.registro, IsEmpty());
 }
 
+TEST_F(PruebaMandos, un_boton_acaba_el_mensaje) {
+    tabla.FormatoColumnas(
+        1, false, true, T_formato::Alfanm, 0, T_Alineacion::Izqda, T_Accion::Nada__, 10, "C");
+    m().doble_clic(x(1), y(1));
+    EXPECT_TRUE(tabla.estado().etiquetas.labMensaje.visible);
+    EXPECT_TRUE(m().boton("Copiar"));
+    EXPECT_FALSE(tabla.estado().etiquetas.labMensaje.visible);
+    EXPECT_FALSE(m().boton("Otro"));
+}
+
 TEST_F(PruebaMandos, lo_que_una_tecla_dice_de_si) {
     EXPECT_FALSE(m().tecla_abajo('A', {}));
     EXPECT_FALSE(m().tecla_abajo(teclas::TAB, {}));
