@@ -3,6 +3,7 @@
 #include "core/superficie.h"
 
 #include "base/aritmetica.h"
+#include "base/error.h"
 #include "base/numeros.h"
 #include "base/utf8.h"
 #include "core/numeracion.h"
@@ -10,6 +11,7 @@
 #include "core/textos.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace Qlt4_Tabla {
@@ -25,6 +27,13 @@ bool en_tablero(const Tablero& t, std::int32_t fila, std::int32_t col) {
     return fila >= 0 && fila < t.Rows() && col >= 0 && col < t.Cols();
 }
 
+/// A size in single precision; what is no finite number is out of its range.
+float medida(const Variante& valor) {
+    const float x = valor.a_simple();
+    if (!std::isfinite(x)) lanza(NumError::Desbordamiento);
+    return x;
+}
+
 void pon_si_cero(std::int16_t& campo, std::int16_t valor) {
     if (campo == 0) campo = valor;
 }
@@ -32,13 +41,13 @@ void pon_si_cero(std::int16_t& campo, std::int16_t valor) {
 } // namespace
 
 void Width(EstadoTabla& e, const Variante& valor) {
-    e.plataforma.marco.pon_tamano(valor.a_simple(), e.plataforma.marco.alto());
+    e.plataforma.marco.pon_tamano(medida(valor), e.plataforma.marco.alto());
 }
 
 Variante Width(const EstadoTabla& e) { return e.plataforma.marco.ancho(); }
 
 void Height(EstadoTabla& e, const Variante& valor) {
-    e.plataforma.marco.pon_tamano(e.plataforma.marco.ancho(), valor.a_simple());
+    e.plataforma.marco.pon_tamano(e.plataforma.marco.ancho(), medida(valor));
 }
 
 Variante Height(const EstadoTabla& e) { return e.plataforma.marco.alto(); }

@@ -13,7 +13,8 @@
 
 namespace Qlt4_Tabla {
 
-/// Converts to single precision (error 13 for a text that is no number) and sets the component's size.
+/// Converts to single precision (error 13 for a text that is no number, 6 beyond its range and for a real that
+/// is no finite number) and sets the component's size.
 void Width(EstadoTabla& e, const Variante& valor);
 [[nodiscard]] Variante Width(const EstadoTabla& e);
 void Height(EstadoTabla& e, const Variante& valor);

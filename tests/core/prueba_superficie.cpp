@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 #include <memory>
 
@@ -72,13 +73,17 @@ TEST_F(Superficie, el_ancho_acepta_el_texto_de_un_numero) {
     EXPECT_EQ(p.marco.alto(), 700.0F);
 }
 
-TEST_F(Superficie, lo_que_no_es_numero_es_el_error_13_y_no_cambia_nada) {
+TEST_F(Superficie, lo_que_no_es_una_medida_es_un_error_y_no_cambia_nada) {
     const std::string antes = foto();
     for (const Variante& valor : {Variante("ancho"), Variante(""), Variante::omitido(), Variante("12 m")}) {
         EXPECT_EQ(error_de([&] { Width(e, valor); }), 13);
         EXPECT_EQ(error_de([&] { Height(e, valor); }), 13);
     }
     EXPECT_EQ(error_de([&] { Width(e, 1E39); }), 6);
+    for (const double valor : {std::nan(""), HUGE_VAL, -HUGE_VAL}) {
+        EXPECT_EQ(error_de([&] { Width(e, valor); }), 6);
+        EXPECT_EQ(error_de([&] { Height(e, static_cast<float>(valor)); }), 6);
+    }
     EXPECT_EQ(foto(), antes);
     EXPECT_EQ(p.marco.veces_tamano, 0);
 }
