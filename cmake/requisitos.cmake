@@ -8,7 +8,9 @@ if(PROJECT_IS_TOP_LEVEL)
   endif()
   find_program(TABLA_CCACHE ccache)
   if(TABLA_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${TABLA_CCACHE})
+    # Paths relative to the tree: what one preset has compiled another with the same flags need not.
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
+      CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${TABLA_CCACHE})
   endif()
 endif()
 
