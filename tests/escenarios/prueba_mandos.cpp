@@ -86,7 +86,7 @@ TEST_F(PruebaMandos, un_boton_acaba_el_mensaje) {
         1, false, true, T_formato::Alfanm, 0, T_Alineacion::Izqda, T_Accion::Nada__, 10, "C");
     m().doble_clic(x(1), y(1));
     EXPECT_TRUE(tabla.estado().etiquetas.labMensaje.visible);
-    EXPECT_TRUE(m().boton("Copiar"));
+    EXPECT_TRUE(m().boton("Excel"));
     EXPECT_FALSE(tabla.estado().etiquetas.labMensaje.visible);
     EXPECT_FALSE(m().boton("Otro"));
 }
