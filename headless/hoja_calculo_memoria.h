@@ -7,6 +7,7 @@
 #include "headless/registro.h"
 #include "platform/hoja_calculo.h"
 
+#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
@@ -23,13 +24,9 @@ public:
     bool visible = false;
     bool tomada = false; ///< created and not yet released
 
-    /// Every later call of this name ("aplicacion", "libro", "primera", "celda", "muestra", "suelta") raises
-    /// the error.
-    void falla_en(std::string_view paso, int numero, std::string descripcion) {
-        paso_malo_ = paso;
-        numero_ = numero;
-        descripcion_ = std::move(descripcion);
-    }
+    /// By the name of the call ("aplicacion", "libro", "primera", "celda", "muestra", "suelta"): the error that
+    /// it raises.
+    std::map<std::string, Error, std::less<>> fallos;
 
     void crea_aplicacion() override {
         da_paso("aplicacion");
@@ -63,13 +60,10 @@ private:
     }
 
     void falla(std::string_view paso) const {
-        if (paso == paso_malo_) throw Error(numero_, descripcion_);
+        if (const auto i = fallos.find(paso); i != fallos.end()) throw Error(i->second);
     }
 
     Registro* registro_;
-    std::string paso_malo_;
-    int numero_ = 0;
-    std::string descripcion_;
 };
 
 } // namespace Qlt4_Tabla

@@ -66,9 +66,19 @@ public:
     /// What the host does inside an event; the event's line as in the record.
     virtual void al_suceder(std::function<void(std::string_view)> hace) = 0;
 
+    // The world around the table.
+    /// Texts in the table's own form: every line ends with CR LF.
+    virtual void pon_portapapeles(std::string_view texto) = 0;
+    [[nodiscard]] virtual std::string portapapeles() = 0;
+    /// From now on the clipboard can be neither read nor written.
+    virtual void cierra_portapapeles() = 0;
+    /// The answer to the next question that the table asks.
+    virtual void responde(Respuesta respuesta) = 0;
+    virtual void coma_decimal(bool coma) = 0;
+
     // What happened and what is seen.
     /// Events, messages, beeps and capture points since the last call, one line each, in the form of
-    /// headless/plataforma_memoria.h.
+    /// headless/plataforma_memoria.h. The pointer is none of them.
     [[nodiscard]] virtual std::vector<std::string> recoge() = 0;
     [[nodiscard]] virtual EditorVisto editor() = 0;
 };

@@ -142,9 +142,16 @@ void ConductorMemoria::al_suceder(std::function<void(std::string_view)> hace) {
     p_.eventos.al_suceder = std::move(hace);
 }
 
+void ConductorMemoria::cierra_portapapeles() {
+    const int numero = static_cast<int>(NumError::PortapapelesCerrado);
+    p_.portapapeles.error_al_leer = p_.portapapeles.error_al_escribir = numero;
+}
+
 std::vector<std::string> ConductorMemoria::recoge() {
     obedece();
-    return p_.recoge();
+    std::vector<std::string> lineas = p_.recoge();
+    std::erase_if(lineas, [](const std::string& linea) { return linea.starts_with("puntero "); });
+    return lineas;
 }
 
 EditorVisto ConductorMemoria::editor() {

@@ -26,6 +26,16 @@ public:
     [[nodiscard]] Tabla0& tabla() override { return tabla_; }
 
     void al_suceder(std::function<void(std::string_view)> hace) override;
+    void pon_portapapeles(std::string_view texto) override { p_.portapapeles.texto = texto; }
+
+    [[nodiscard]] std::string portapapeles() override { return p_.portapapeles.texto; }
+
+    void cierra_portapapeles() override;
+
+    void responde(Respuesta respuesta) override { p_.mensajes.respuestas.push_back(respuesta); }
+
+    void coma_decimal(bool coma) override { p_.separador.coma = coma; }
+
     [[nodiscard]] std::vector<std::string> recoge() override;
     [[nodiscard]] EditorVisto editor() override;
 

@@ -3,6 +3,7 @@
 #include "tests/guion/guion.h"
 #include "tests/guion/pasos.h"
 
+#include <algorithm>
 #include <deque>
 #include <utility>
 
@@ -14,6 +15,20 @@ std::string en_lineas(const std::vector<std::string>& lineas) {
     if (lineas.empty()) return "\n    (nothing)";
     std::string texto;
     for (const std::string& linea : lineas) texto += "\n    " + linea;
+    return texto;
+}
+
+// A record on one line of a script: line ends as they are written there.
+std::string en_una_linea(const std::string& linea) {
+    std::string texto;
+    for (const char c : linea) {
+        if (c == '\r')
+            texto += "\\r";
+        else if (c == '\n')
+            texto += "\\n";
+        else
+            texto += c;
+    }
     return texto;
 }
 
@@ -73,7 +88,8 @@ private:
         if (comprobado_) return;
         comprobado_ = true;
         linea_ = estimulo_.linea;
-        const std::vector<std::string> hallado = conductor_.recoge();
+        std::vector<std::string> hallado = conductor_.recoge();
+        std::transform(hallado.begin(), hallado.end(), hallado.begin(), en_una_linea);
         const std::vector<std::string> esperado = std::exchange(esperadas_, {});
         if (hallado == esperado) return;
         throw FalloGuion(
@@ -90,7 +106,8 @@ private:
             reacciones_.emplace_back(evento, sin_margen(texto.substr(paso)));
             return;
         }
-        if (paso_anfitrion(conductor_, primera, palabras) || paso_usuario(conductor_, primera, palabras))
+        if (paso_anfitrion(conductor_, primera, palabras) || paso_usuario(conductor_, primera, palabras) ||
+            paso_entorno(conductor_, primera, palabras))
             return;
         throw FalloGuion("no such step: " + primera);
     }

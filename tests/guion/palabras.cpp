@@ -14,6 +14,8 @@ bool blanco(char c) { return c == ' ' || c == '\t' || c == '\r'; }
 char escapado(char c) {
     switch (c) {
     case 'b': return '\b';
+    case 'n': return '\n';
+    case 'r': return '\r';
     case 't': return '\t';
     default: return c;
     }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Palabras: one step of a script cut into words. Blanks separate; "..." keeps them, with \" \\ \b \t as in
-// C. Main names: Palabras, FalloGuion, trozos.
+// Palabras: one step of a script cut into words. Blanks separate; "..." keeps them, with \" \\ \b \n \r
+// \t as in C. Main names: Palabras, FalloGuion, trozos.
 #pragma once
 
 #include "core/geometria.h"

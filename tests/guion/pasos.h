@@ -31,7 +31,15 @@ namespace Qlt4_Tabla {
 //   ventana WIDTH ROWS                      room for so many data rows below the header
 //   elige ROW COL [ROW COL]                 as an assistive program or the host moves the cursor
 //   orden ITEM                              a command by the name of its menu item
+//   boton KEY                               a button of the toolbar by its key
 [[nodiscard]] bool paso_usuario(Conductor& conductor, std::string_view palabra, Palabras& resto);
+
+// Steps of the world around (entorno.cpp):
+//   portapapeles TEXT                       puts a text on the clipboard, in the table's own form
+//   portapapeles_cerrado                    from now on it can be neither read nor written
+//   responde si|no                          the answer to the next question
+//   coma si|no                              does the platform write decimals with a comma?
+[[nodiscard]] bool paso_entorno(Conductor& conductor, std::string_view palabra, Palabras& resto);
 
 // Questions (preguntas.cpp), each after "?":
 //   celda ROW COL = TEXT    leida ROW COL = TEXT (as the host reads it)     fondo ROW COL = COLOUR|nada
@@ -41,7 +49,7 @@ namespace Qlt4_Tabla {
 //   lista abierta TEXT      lista cerrada    entradas A|B|C   editor cerrado
 //   editor sobre ROW COL                     which cell is edited, and the editor lies over it
 //   mensaje visible TEXT    mensaje oculto   mensaje estado TEXT (hidden, with this caption)
-//   modificado 0|1          marcada ITEM si|no
+//   modificado 0|1          marcada ITEM si|no      activa ITEM si|no       portapapeles = TEXT
 /// Fails with a FalloGuion when the answer is another one.
 void pregunta(Conductor& conductor, std::string_view texto);
 

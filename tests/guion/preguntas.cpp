@@ -147,7 +147,17 @@ void marcada(Conductor& c, Palabras& p) {
     compara(p.palabra(), c.tabla().estado().menus[opcion].marcada ? "si" : "no");
 }
 
-constexpr std::array<std::pair<std::string_view, Pregunta>, 18> PREGUNTAS{{
+void activa(Conductor& c, Palabras& p) {
+    const Opcion opcion = opcion_de_nombre(p.palabra());
+    compara(p.palabra(), c.tabla().estado().menus[opcion].activa ? "si" : "no");
+}
+
+void portapapeles(Conductor& c, Palabras& p) {
+    p.exige("=");
+    compara(p.resto(), c.portapapeles());
+}
+
+constexpr std::array<std::pair<std::string_view, Pregunta>, 20> PREGUNTAS{{
     {"celda", celda},
     {"leida", leida},
     {"fondo", fondo},
@@ -169,6 +179,8 @@ constexpr std::array<std::pair<std::string_view, Pregunta>, 18> PREGUNTAS{{
     {"mensaje", mensaje},
     {"modificado", [](Conductor& c, Palabras& p) { compara_numeros(p, {c.tabla().estado().Modificado}); }},
     {"marcada", marcada},
+    {"activa", activa},
+    {"portapapeles", portapapeles},
 }};
 
 } // namespace

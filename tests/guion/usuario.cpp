@@ -53,21 +53,24 @@ Modificadores toma_modificadores(std::string_view& nombre) {
     return mods;
 }
 
-void pulsa(Conductor& c, Palabras& p) {
-    const std::string palabra = p.palabra();
-    std::string_view nombre = palabra;
-    const Modificadores mods = toma_modificadores(nombre);
-    for (const NombreTecla& t : TECLAS)
-        if (t.nombre == nombre) return c.pulsa({t.KeyCode, t.caracter, mods});
-    throw FalloGuion("no such key: " + palabra);
-}
-
 // Letters and digits have key codes of their own; the other characters are known by what they type.
 int codigo_de_caracter(char32_t punto) {
     if (punto >= '0' && punto <= '9') return static_cast<int>(punto);
     if (punto >= 'A' && punto <= 'Z') return static_cast<int>(punto);
     if (punto >= 'a' && punto <= 'z') return static_cast<int>(punto) - 32;
     return punto == ' ' ? teclas::ESPACIO : teclas::NINGUNA;
+}
+
+void pulsa(Conductor& c, Palabras& p) {
+    const std::string palabra = p.palabra();
+    std::string_view nombre = palabra;
+    const Modificadores mods = toma_modificadores(nombre);
+    for (const NombreTecla& t : TECLAS)
+        if (t.nombre == nombre) return c.pulsa({t.KeyCode, t.caracter, mods});
+    // A letter with Ctrl types nothing.
+    if (nombre.size() == 1 && mods.contiene(teclas::CONTROL))
+        return c.pulsa({codigo_de_caracter(static_cast<unsigned char>(nombre.front())), 0, mods});
+    throw FalloGuion("no such key: " + palabra);
 }
 
 void teclea(Conductor& c, Palabras& p) {
@@ -128,7 +131,12 @@ void orden(Conductor& c, Palabras& p) {
     if (!c.tabla().mandos().orden(opcion_de_nombre(nombre))) throw FalloGuion("no command: " + nombre);
 }
 
-constexpr std::array<std::pair<std::string_view, Paso>, 14> PASOS{{
+void boton(Conductor& c, Palabras& p) {
+    const std::string clave = p.palabra();
+    if (!c.tabla().mandos().boton(clave)) throw FalloGuion("no button: " + clave);
+}
+
+constexpr std::array<std::pair<std::string_view, Paso>, 15> PASOS{{
     {"pulsa", pulsa},
     {"tecla", pulsa},
     {"teclea", teclea},
@@ -143,14 +151,25 @@ constexpr std::array<std::pair<std::string_view, Paso>, 14> PASOS{{
     {"ventana", ventana},
     {"elige", elige},
     {"orden", orden},
+    {"boton", boton},
 }};
 
 } // namespace
 
 Opcion opcion_de_nombre(std::string_view nombre) {
-    constexpr std::array<std::pair<std::string_view, Opcion>, 10> NOMBRES{{
+    constexpr std::array<std::pair<std::string_view, Opcion>, 20> NOMBRES{{
         {"mn_Deshacer", Opcion::mn_Deshacer},
         {"mn_Rehacer", Opcion::mn_Rehacer},
+        {"mn_cortar", Opcion::mn_cortar},
+        {"mn_copiar", Opcion::mn_copiar},
+        {"mn_Pegar", Opcion::mn_Pegar},
+        {"mn_copiar_todo_y_cabezera", Opcion::mn_copiar_todo_y_cabezera},
+        {"mn_copiar_pXc", Opcion::mn_copiar_pXc},
+        {"mn_pegar_cXp", Opcion::mn_pegar_cXp},
+        {"mn_pegar_al_final", Opcion::mn_pegar_al_final},
+        {"mn_Especial_puntos_Copia", Opcion::mn_Especial_puntos_Copia},
+        {"mn_copiar1", Opcion::mn_copiar1},
+        {"mn_Pegar2", Opcion::mn_Pegar2},
         {"mn_insertar_filas", Opcion::mn_insertar_filas},
         {"mn_eliminar_filas", Opcion::mn_eliminar_filas},
         {"mn_añadir_filas", Opcion::mn_añadir_filas},
