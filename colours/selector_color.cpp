@@ -155,7 +155,9 @@ float lee_coordenada(const Ajustes& ajustes, std::string_view clave) {
 } // namespace
 
 F_color::F_color(DialogoColor& dialogo, Mensajes& mensajes, Ajustes& ajustes)
-    : dialogo_(dialogo), mensajes_(mensajes), ajustes_(ajustes) {}
+    : dialogo_(dialogo), mensajes_(mensajes), ajustes_(ajustes) {
+    visto_.titulo = textos::gama_de_colores;
+}
 
 void F_color::C_color_elegido_Vb(std::int32_t color) {
     por_capa_ = false;

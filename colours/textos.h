@@ -17,8 +17,9 @@ inline constexpr std::array<std::string_view, 10> nombres_color{
 inline constexpr std::string_view color_negativo = "color negativo";
 inline constexpr std::string_view titulo_color = "Tabla color";
 
-// The picker: its title as the table shows it, what its error label says, and the frame of a swatch's name
+// The picker: its own title, its title as the table shows it, what its error label says, and the frame of a swatch's name
 // where it has one: name, this, index, this.
+inline constexpr std::string_view gama_de_colores = "Gama de colores";
 inline constexpr std::string_view elige_color = "Elige Color:";
 inline constexpr std::string_view color_no_valido = "Color no válido";
 inline constexpr std::string_view abre_indice = " (";

@@ -7,6 +7,7 @@
 #include "headless/ficheros_disco.h"
 #include "platform/plataforma.h"
 #include "qt/ajustes_qt.h"
+#include "qt/dialogo_color.h"
 #include "qt/portapapeles_qt.h"
 
 #include <QLocale>
@@ -104,7 +105,7 @@ private:
     DialogoFicheroNulo dialogo_;
     PortapapelesQt portapapeles_;
     HojaCalculoNula hoja_;
-    DialogoColorNulo dialogo_color_;
+    DialogoColorQt dialogo_color_;
     std::optional<bool> coma_;
     bool reloj_ = false;
 };

@@ -365,7 +365,7 @@ TEST_F(Selector, ItStandsAtAThousandTwipsUntilItWasMoved) {
 TEST_F(Selector, ItIsWrittenWheneverItCloses) {
     ejecuta(cancela);
     EXPECT_EQ(p.registro,
-        (Registro{"dialogo_color ", "ajuste Quillet|Tabla Color Posicion|Left=1000",
+        (Registro{"dialogo_color Gama de colores", "ajuste Quillet|Tabla Color Posicion|Left=1000",
             "ajuste Quillet|Tabla Color Posicion|Top=1000"}));
 }
 
