@@ -6,6 +6,8 @@
 
 #include <QKeyEvent>
 
+#include <cstddef>
+
 namespace Qlt4_Tabla {
 
 namespace {
@@ -33,13 +35,27 @@ constexpr Par TECLAS[] = {
     {Qt::Key_F2, teclas::F2},
 };
 
+// Only with Ctrl alone; else they are typed, or some other program's shortcuts.
+constexpr Par TECLAS_CON_CONTROL[] = {
+    {Qt::Key_C, teclas::C},
+    {Qt::Key_V, teclas::V},
+    {Qt::Key_X, teclas::X},
+    {Qt::Key_Z, teclas::Z},
+};
+
+template <std::size_t N>
+int busca(const Par (&pares)[N], int tecla) {
+    for (const Par& p : pares)
+        if (p.qt == tecla) return p.codigo;
+    return teclas::NINGUNA;
+}
+
 } // namespace
 
 int codigo_tecla_abajo(const QKeyEvent& e) {
-    for (const Par& p : TECLAS) {
-        if (p.qt == e.key()) return p.codigo;
-    }
-    return teclas::NINGUNA;
+    const int codigo = busca(TECLAS, e.key());
+    if (codigo != teclas::NINGUNA || e.modifiers() != Qt::ControlModifier) return codigo;
+    return busca(TECLAS_CON_CONTROL, e.key());
 }
 
 Modificadores modificadores(Qt::KeyboardModifiers m) {
