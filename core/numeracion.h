@@ -7,8 +7,6 @@
 namespace Qlt4_Tabla {
 
 /// Column 0 of every data row takes the row's number as text.
-inline void Numera_Filas(Tablero& t) {
-    t.numera_filas();
-}
+inline void Numera_Filas(Tablero& t) { t.numera_filas(); }
 
 } // namespace Qlt4_Tabla

@@ -2,7 +2,6 @@
 // The accessible faces of the grid and of its cells, and the notices about them.
 #include "qt/accesible.h"
 
-#include "core/formato_columna.h"
 #include "core/geometria.h"
 #include "qt/tabla_widget.h"
 #include "qt/texto_qt.h"
@@ -32,18 +31,9 @@ bool existe(const Tablero& t, int fila, int col) {
     return fila >= 0 && fila < t.Rows() && col >= 0 && col < t.Cols();
 }
 
-bool bloqueada(const Tabla0& tabla, int col) {
-    return col < MAX_COLUMNAS && tabla.estado().Formatos[static_cast<std::size_t>(col)].Bloqueada;
-}
-
 bool seleccionada(const Tablero& t, int fila, int col) {
     const Bloque b = t.seleccion();
     return fila >= b.fila1 && fila <= b.fila2 && col >= b.col1 && col <= b.col2;
-}
-
-QString nombre_de_columna(const Tablero& t, int col) {
-    const QString nombre = a_qstring(t.TextMatrix(0, col));
-    return nombre.isEmpty() ? a_qstring(textos::columna) + QString::number(col) : nombre;
 }
 
 // One cell. It knows its place only; everything else is read from the grid when asked.
@@ -371,28 +361,6 @@ QAccessibleInterface* fabrica(const QString&, QObject* objeto) {
 }
 
 } // namespace
-
-QString lugar_de_celda(const Tabla0& tabla, int fila, int col) {
-    return nombre_de_columna(tabla.tablero(), col) + a_qstring(textos::separa) + a_qstring(textos::fila) +
-        QString::number(fila);
-}
-
-QString nombre_de_celda(const Tabla0& tabla, int fila, int col) {
-    const Tablero& t = tabla.tablero();
-    const QString texto = a_qstring(t.TextMatrix(fila, col));
-    QString nombre;
-    if (fila == 0 && col == 0)
-        nombre = texto.isEmpty() ? a_qstring(textos::esquina) : texto;
-    else if (fila == 0)
-        nombre = a_qstring(textos::cabecera_columna) + nombre_de_columna(t, col);
-    else if (col == 0)
-        nombre = a_qstring(textos::fila) + QString::number(fila);
-    else
-        nombre = lugar_de_celda(tabla, fila, col) + a_qstring(textos::separa) +
-            (texto.isEmpty() ? a_qstring(textos::vacia) : texto);
-    if (col > 0 && bloqueada(tabla, col)) nombre += a_qstring(textos::separa) + a_qstring(textos::bloqueada);
-    return nombre;
-}
 
 void anuncia(QWidget& etiqueta) {
     if (!QAccessible::isActive()) return;

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 // What assistive programs see of the grid: one table in the grid's own coordinates, header row and row
 // numbers included. A cell is made when it is asked for, so that a table of a million rows costs nothing
-// until someone reads it. Main names: hazlo_accesible, nombre_de_celda, CeldasAccesibles.
+// until someone reads it. Main names: hazlo_accesible, CeldasAccesibles.
+// What cells are called: qt/nombres_accesibles.h.
 #pragma once
+
+#include "qt/nombres_accesibles.h"
 
 #include <QAccessible>
 #include <QObject>
@@ -15,7 +18,6 @@ class QWidget;
 
 namespace Qlt4_Tabla {
 
-class Tabla0;
 class TablaWidget;
 class VistaRejilla;
 
@@ -24,11 +26,6 @@ void hazlo_accesible(TablaWidget& widget, VistaRejilla& vista);
 
 /// A message appeared in this label: it is read out at once.
 void anuncia(QWidget& etiqueta);
-
-/// Column and row of a cell as they are read out: "X, fila 3". The cell must exist.
-[[nodiscard]] QString lugar_de_celda(const Tabla0& tabla, int fila, int col);
-/// The whole name: "X, fila 3, 12.500, bloqueada". The cell must exist.
-[[nodiscard]] QString nombre_de_celda(const Tabla0& tabla, int fila, int col);
 
 // The cells of one grid that were asked for. The identifier of a cell stays its own while rows come and go
 // around it. Beyond MAX_CELDAS_HECHAS those out of sight are forgotten at the next move of the cursor and
