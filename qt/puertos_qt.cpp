@@ -34,7 +34,7 @@ int a_unidades(const QString& texto, int caracteres) {
 
 } // namespace
 
-PuertosQt::PuertosQt(TablaWidget& widget) : widget_(widget), dialogo_color_(widget) {}
+PuertosQt::PuertosQt(TablaWidget& widget) : widget_(widget), dialogo_(widget), dialogo_color_(widget) {}
 
 PuertosQt::~PuertosQt() {
     if (reloj_) QApplication::restoreOverrideCursor();

@@ -8,6 +8,7 @@
 #include "platform/plataforma.h"
 #include "qt/ajustes_qt.h"
 #include "qt/dialogo_color.h"
+#include "qt/dialogo_fichero_qt.h"
 #include "qt/portapapeles_qt.h"
 
 #include <QLocale>
@@ -102,7 +103,7 @@ private:
     AlmacenPasosNulo pasos_;
     AjustesQt ajustes_;
     FicherosDisco ficheros_;
-    DialogoFicheroNulo dialogo_;
+    DialogoFicheroQt dialogo_;
     PortapapelesQt portapapeles_;
     HojaCalculoNula hoja_;
     DialogoColorQt dialogo_color_;

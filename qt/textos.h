@@ -4,6 +4,7 @@
 // bloqueada").
 #pragma once
 
+#include <array>
 #include <string_view>
 
 namespace Qlt4_Tabla::textos {
@@ -38,5 +39,34 @@ inline constexpr std::string_view bloqueada = "bloqueada";
 // The name of a header.
 inline constexpr std::string_view esquina = "Esquina";
 inline constexpr std::string_view cabecera_columna = "Columna "; // and its name
+
+// The file dialog.
+namespace fichero {
+
+inline constexpr std::string_view buscar_en = "Buscar en:";
+inline constexpr std::string_view nombre_fichero = "&Nombre:";
+inline constexpr std::string_view tipo_fichero = "Tipo:";
+inline constexpr std::string_view abrir = "&Abrir";
+inline constexpr std::string_view guardar = "&Guardar";
+inline constexpr std::string_view cancelar = "Cancelar";
+inline constexpr std::string_view reemplazar = "&Reemplazar";
+inline constexpr std::string_view atras = "Atrás";
+inline constexpr std::string_view adelante = "Adelante";
+inline constexpr std::string_view subir = "Carpeta superior";
+inline constexpr std::string_view vista_lista = "Lista";
+inline constexpr std::string_view vista_detalle = "Detalles";
+/// Headers of the list of files.
+inline constexpr std::array<std::string_view, 4> columnas_ficheros{
+    "Nombre", "Tamaño", "Tipo", "Fecha de modificación"};
+// Kinds of files; behind the second one stands the extension.
+inline constexpr std::string_view carpeta = "Carpeta";
+inline constexpr std::string_view archivo = "Archivo";
+// Around a file's name.
+inline constexpr std::string_view ya_existe_antes = "El archivo «";
+inline constexpr std::string_view ya_existe_despues = "» ya existe. ¿Quiere reemplazarlo?";
+inline constexpr std::string_view no_existe_antes = "No hay ningún archivo «";
+inline constexpr std::string_view no_existe_despues = "» en esta carpeta.";
+
+} // namespace fichero
 
 } // namespace Qlt4_Tabla::textos
