@@ -30,6 +30,7 @@ namespace {
 constexpr int ALTO_PLEGADO = 1785; // twips
 constexpr int MARGEN_PX = 10;
 constexpr int ESPACIO_PX = 8;
+constexpr QSize MARCO(16, 40); // room for the window's frame, before it is known
 constexpr const char* NOMBRES_TIRA[] = {"Pc_color_normal", "Pc_color_grises", "Pc_color_especial"};
 constexpr std::string_view VOCES_TIRA[] = {textos::tira_normal, textos::tira_grises, textos::tira_especial};
 
@@ -208,6 +209,7 @@ void VentanaColor::ajusta_talla() {
     if (!modelo_.visto().desplegado)
         talla.setHeight(std::max(talla.height(), Unidades(*this).px_y(ALTO_PLEGADO)));
     setFixedSize(talla);
+    if (isVisible() && dentro_de_pantalla(pos()) != pos()) move(dentro_de_pantalla(pos()));
 }
 
 // The keyboard goes on where the marked swatch is; the box keeps it once the user types there.
@@ -220,15 +222,22 @@ void VentanaColor::enfoca_marcada() {
 
 void VentanaColor::coloca() {
     const Unidades u(*this);
-    QPoint p(
-        u.px_x(a_twips_enteros(modelo_.visto().izquierda)), u.px_y(a_twips_enteros(modelo_.visto().arriba)));
+    const VistoColor& v = modelo_.visto();
+    const QPoint p(u.px_x(a_twips_enteros(v.izquierda)), u.px_y(a_twips_enteros(v.arriba)));
+    puesta_en_ = dentro_de_pantalla(p);
+    move(puesta_en_);
+}
+
+QPoint VentanaColor::dentro_de_pantalla(QPoint p) const {
     const QScreen* pantalla = QGuiApplication::screenAt(p);
     if (pantalla == nullptr) pantalla = screen();
     const QRect libre = pantalla->availableGeometry();
-    p.setX(std::clamp(p.x(), libre.left(), std::max(libre.left(), libre.right() - width())));
-    p.setY(std::clamp(p.y(), libre.top(), std::max(libre.top(), libre.bottom() - height())));
-    move(p);
-    puesta_en_ = p;
+    const QSize talla = isVisible() ? frameGeometry().size() : size() + MARCO;
+    const auto sujeta = [](int x, int primero, int ultimo) {
+        return std::clamp(x, primero, std::max(primero, ultimo));
+    };
+    return {sujeta(p.x(), libre.left(), libre.right() - talla.width() + 1),
+        sujeta(p.y(), libre.top(), libre.bottom() - talla.height() + 1)};
 }
 
 QPointF VentanaColor::sitio() const {
