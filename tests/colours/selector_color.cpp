@@ -199,7 +199,9 @@ TEST_F(Selector, OnlyColoursAboveBlackAreAccepted) {
         s.C_color_elegido_Vb(color);
         ejecuta([](ModeloColor& m) {
             m.boton(BotonColor::Aceptar);
-            if (m.visto().abierto) EXPECT_EQ(m.visto().error, "Color no válido");
+            if (m.visto().abierto) {
+                EXPECT_EQ(m.visto().error, "Color no válido");
+            }
         });
         EXPECT_EQ(s.aceptado(), pasa) << color;
         EXPECT_EQ(p.mensajes.pitidos, pasa ? 0 : 1) << color;
