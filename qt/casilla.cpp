@@ -58,8 +58,7 @@ bool Casilla::event(QEvent* e) {
     // While it is open the box owns its keys, those that the host or the table bind as shortcuts too.
     if (e->type() == QEvent::ShortcutOverride) {
         auto* tecla = static_cast<QKeyEvent*>(e);
-        const int codigo = codigo_tecla_abajo(*tecla);
-        if (codigo != teclas::NINGUNA && codigo != teclas::F2) {
+        if (codigo_tecla_abajo(*tecla) != teclas::NINGUNA) {
             e->accept();
             return true;
         }

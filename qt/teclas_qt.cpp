@@ -67,6 +67,10 @@ Modificadores modificadores(Qt::KeyboardModifiers m) {
 }
 
 std::vector<int> codigos_tecleados(const QKeyEvent& e) {
+    // AltGr comes as Ctrl+Alt on some systems; with one of them alone the key is a command.
+    const bool control = e.modifiers().testFlag(Qt::ControlModifier);
+    const bool alt = e.modifiers().testFlag(Qt::AltModifier);
+    if (control != alt || e.modifiers().testFlag(Qt::MetaModifier)) return {};
     switch (e.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter: return {teclas::INTRO};
@@ -75,13 +79,17 @@ std::vector<int> codigos_tecleados(const QKeyEvent& e) {
     case Qt::Key_Tab:
     case Qt::Key_Backtab:
     case Qt::Key_Delete: return {};
-    default: break;
+    default: return codigos_de_texto(e.text());
     }
-    // AltGr comes as Ctrl+Alt on some systems; with one of them alone the key is a command.
-    const bool control = e.modifiers().testFlag(Qt::ControlModifier);
-    const bool alt = e.modifiers().testFlag(Qt::AltModifier);
-    if (control != alt || e.modifiers().testFlag(Qt::MetaModifier)) return {};
-    return codigos_de_texto(e.text());
+}
+
+bool es_de_la_rejilla(const QKeyEvent& e) {
+    if (!codigos_tecleados(e).empty()) return true;
+    const int codigo = codigo_tecla_abajo(e);
+    if ((e.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) != 0) return false;
+    if (!e.modifiers().testFlag(Qt::ControlModifier)) return codigo != teclas::NINGUNA;
+    const bool mueve = codigo >= teclas::REPAG && codigo <= teclas::ABAJO;
+    return mueve || (codigo >= teclas::A && codigo <= teclas::Z);
 }
 
 std::vector<int> codigos_de_texto(const QString& texto) {

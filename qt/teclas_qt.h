@@ -19,6 +19,8 @@ namespace Qlt4_Tabla {
 /// character. AltGr types characters.
 [[nodiscard]] std::vector<int> codigos_tecleados(const QKeyEvent& e);
 [[nodiscard]] std::vector<int> codigos_de_texto(const QString& texto);
+/// Does the grid use the key, so that it claims it from a host that binds it as a shortcut?
+[[nodiscard]] bool es_de_la_rejilla(const QKeyEvent& e);
 /// Is it the decimal key of the keypad, whatever sign the layout gives it?
 [[nodiscard]] bool es_decimal_del_teclado_numerico(const QKeyEvent& e);
 /// The text of a key-press code.

@@ -189,11 +189,7 @@ void VistaRejilla::pon_barras() {
 bool VistaRejilla::event(QEvent* e) {
     // The grid claims the keys it uses from a host that binds them as shortcuts, and no others.
     if (e->type() == QEvent::ShortcutOverride && isEnabled()) {
-        auto* tecla = static_cast<QKeyEvent*>(e);
-        const bool mando =
-            (tecla->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
-        const bool tecleable = !mando && !codigos_tecleados(*tecla).empty();
-        if (tecleable || codigo_tecla_abajo(*tecla) != teclas::NINGUNA) {
+        if (es_de_la_rejilla(*static_cast<QKeyEvent*>(e))) {
             e->accept();
             return true;
         }
@@ -293,7 +289,10 @@ int VistaRejilla::borde_bajo(const QPointF& px) const {
 
 void VistaRejilla::mousePressEvent(QMouseEvent* e) {
     columna_en_mano_ = e->button() == Qt::LeftButton ? borde_bajo(e->position()) : -1;
-    if (columna_en_mano_ >= 0) return; // an open editor stays open and follows the width
+    if (columna_en_mano_ >= 0) { // an open editor stays open and follows the width
+        agarre_ = e->position().toPoint().x() - rect_celda(0, columna_en_mano_).width();
+        return;
+    }
     setFocus(Qt::MouseFocusReason);
     const QPoint p = a_twips(e->position());
     tabla_.mandos().raton_abajo(p.x(), p.y(), boton_de(e->button()), modificadores(e->modifiers()));
@@ -335,10 +334,11 @@ void VistaRejilla::mouseDoubleClickEvent(QMouseEvent* e) {
     tabla_.mandos().doble_clic(p.x(), p.y());
 }
 
+// Twips are written only where the width in pixels becomes another one: they stay as given otherwise.
 void VistaRejilla::arrastra_borde(int x_px) {
-    const Unidades u = unidades();
-    const int izquierda = u.px_x(x_columna(tablero(), columna_en_mano_));
-    tabla_.mandos().arrastra_borde(columna_en_mano_, u.twips_x(std::max(0, x_px - izquierda)));
+    const int ancho = std::max(0, x_px - agarre_);
+    if (ancho == rect_celda(0, columna_en_mano_).width()) return;
+    tabla_.mandos().arrastra_borde(columna_en_mano_, unidades().twips_x(ancho));
 }
 
 // Double click on the edge: as wide as the widest text that is seen.

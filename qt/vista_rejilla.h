@@ -93,6 +93,7 @@ private:
     Dibujado dibujado_;
     int pedidos_ = 0; // repaint requests since the last painting
     int columna_en_mano_ = -1; // column whose edge is dragged
+    int agarre_ = 0; // where the mouse took the edge, less the width then
     int rueda_y_ = 0; // wheel steps of less than a notch, added up
     int rueda_x_ = 0;
     bool poniendo_barras_ = false;
