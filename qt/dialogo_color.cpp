@@ -57,6 +57,8 @@ QHBoxLayout* crea_fila(QWidget* fila) {
     return caja;
 }
 
+QPointF sitio_de(const VistoColor& v) { return {qreal{v.izquierda}, qreal{v.arriba}}; }
+
 int a_twips_enteros(float twips) { return static_cast<int>(std::lround(std::clamp(twips, -1.0e7F, 1.0e7F))); }
 
 } // namespace
@@ -242,7 +244,7 @@ QPoint VentanaColor::dentro_de_pantalla(QPoint p) const {
 
 QPointF VentanaColor::sitio() const {
     const VistoColor& v = modelo_.visto();
-    if (pos() == puesta_en_) return {v.izquierda, v.arriba};
+    if (pos() == puesta_en_) return sitio_de(v);
     const Unidades u(*this);
     return {static_cast<qreal>(u.twips_x(pos().x())), static_cast<qreal>(u.twips_y(pos().y()))};
 }
@@ -278,7 +280,7 @@ void DialogoColorQt::ejecuta(ModeloColor& modelo) {
     ventana->coloca();
     ventana->exec();
     // The host may have destroyed its window, and this one with it.
-    QPointF sitio(modelo.visto().izquierda, modelo.visto().arriba);
+    QPointF sitio = sitio_de(modelo.visto());
     if (ventana != nullptr) sitio = ventana->sitio();
     if (modelo.visto().abierto) modelo.boton(BotonColor::Cancelar);
     modelo.cerrado(static_cast<float>(sitio.x()), static_cast<float>(sitio.y()));
