@@ -57,7 +57,9 @@ QHBoxLayout* crea_fila(QWidget* fila) {
     return caja;
 }
 
-QPointF sitio_de(const VistoColor& v) { return {qreal{v.izquierda}, qreal{v.arriba}}; }
+QPointF sitio_de(const VistoColor& v) {
+    return {static_cast<qreal>(v.izquierda), static_cast<qreal>(v.arriba)};
+}
 
 int a_twips_enteros(float twips) { return static_cast<int>(std::lround(std::clamp(twips, -1.0e7F, 1.0e7F))); }
 
