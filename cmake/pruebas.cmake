@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 # tests/<folder>/*.cpp: one GoogleTest program prueba_<folder> each; tests/qt/*.cpp: one QTest
-# program each; tests/guion/: the runner of the scenario scripts, for both; and every header alone.
+# program each; tests/guion/: the runner of the scenario scripts, for both, tests/guion_qt/: its hands on
+# the widget; and every header alone.
 
 include(GoogleTest)
 set(TABLA_TESTS ${PROJECT_SOURCE_DIR}/tests)
@@ -45,13 +46,17 @@ foreach(carpeta base platform core colours editing clipboard files column_editor
 endforeach()
 
 if(TARGET tabla_qt)
+  # The hands of the scenario scripts on the widget.
+  file(GLOB fuentes CONFIGURE_DEPENDS ${TABLA_TESTS}/guion_qt/*.cpp)
+  add_library(tabla_guion_qt STATIC ${fuentes})
+  tabla_prueba(tabla_guion_qt tabla_guion tabla_qt tabla_headless Qt6::Test)
   file(GLOB programas CONFIGURE_DEPENDS ${TABLA_TESTS}/qt/*.cpp)
   foreach(fuente IN LISTS programas)
     get_filename_component(nombre ${fuente} NAME_WE)
     set(objetivo prueba_qt_${nombre})
     add_executable(${objetivo} ${fuente})
     set_target_properties(${objetivo} PROPERTIES AUTOMOC ON)
-    tabla_prueba(${objetivo} tabla_guion tabla_qt tabla_headless Qt6::Test)
+    tabla_prueba(${objetivo} tabla_guion_qt tabla_guion tabla_qt tabla_headless Qt6::Test)
     # The report file is what scripts/cuenta counts the single tests from. QTest's own crash
     # handler forks and hangs on a damaged heap: without it a crash ends the program at once.
     add_test(NAME qt.${nombre} COMMAND ${objetivo} -nocrashhandler

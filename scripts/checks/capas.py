@@ -29,8 +29,8 @@ def permisos(ruta):
         return None
     probada = ruta.parts[1] if len(ruta.parts) > 2 else ""
     todas = set(FILAS) | {"tests"}
-    if probada == "qt":
-        return "tests/qt", todas, True, True
+    if probada in ("qt", "guion_qt"):
+        return f"tests/{probada}", todas, True, True
     if probada == "tools":
         return "tests/tools", todas - {"qt"} | {"tools"}, False, True
     if probada in FILAS:

@@ -6,10 +6,8 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <filesystem>
 #include <ostream>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -24,31 +22,8 @@ struct Caso {
 
 void PrintTo(const Caso& caso, std::ostream* salida) { *salida << caso.escena->nombre; }
 
-struct Leidos {
-    std::vector<Guion> guiones;
-    std::vector<std::string> fallos;
-};
-
-Leidos lee_todos() {
-    Leidos leidos;
-    std::vector<std::string> rutas;
-    std::error_code sin_carpeta;
-    for (const auto& f :
-        std::filesystem::directory_iterator(TABLA_DIR_PRUEBAS "/escenarios/guiones", sin_carpeta))
-        if (f.path().extension() == ".guion") rutas.push_back(f.path().string());
-    std::sort(rutas.begin(), rutas.end());
-    for (const std::string& ruta : rutas) {
-        try {
-            leidos.guiones.push_back(lee_guion(ruta));
-        } catch (const std::runtime_error& e) {
-            leidos.fallos.emplace_back(e.what());
-        }
-    }
-    return leidos;
-}
-
-const Leidos& leidos() {
-    static const Leidos todos = lee_todos();
+const GuionesLeidos& leidos() {
+    static const GuionesLeidos todos = lee_carpeta(TABLA_DIR_PRUEBAS "/escenarios/guiones");
     return todos;
 }
 

@@ -94,12 +94,18 @@ void fondo(Tabla0& tabla, Palabras& p) {
     tabla.Color_Matrix(c.fila, c.col, p.entero());
 }
 
+void elige_color(Tabla0& tabla, Palabras& p) {
+    const std::int32_t hallado = tabla.Show_Elige_Color(p.entero());
+    p.exige("=");
+    if (hallado != p.entero()) throw FalloGuion("the picker gave " + std::to_string(hallado));
+}
+
 void alto(Tabla0& tabla, Palabras& p) {
     const int fila = p.entero();
     tabla.A_Pon_Alto(corto(fila), corto(p.entero()));
 }
 
-constexpr std::array<std::pair<std::string_view, Paso>, 11> PASOS{{
+constexpr std::array<std::pair<std::string_view, Paso>, 12> PASOS{{
     {"nombres", nombres},
     {"columnas", [](Tabla0& t, Palabras& p) { t.Cols(p.entero()); }},
     {"filas", [](Tabla0& t, Palabras& p) { t.Rows(p.entero()); }},
@@ -109,6 +115,7 @@ constexpr std::array<std::pair<std::string_view, Paso>, 11> PASOS{{
     {"texto", texto},
     {"fondo", fondo},
     {"alto", alto},
+    {"elige_color", elige_color},
     {"llama", [](Tabla0& t, Palabras& p) { invoca(t, p, Acceso::Metodo); }},
     {"pone", [](Tabla0& t, Palabras& p) { invoca(t, p, Acceso::Pone); }},
 }};

@@ -10,6 +10,8 @@
 #include "control/tabla0.h"
 #include "core/geometria.h"
 #include "editing/editor_celda.h"
+#include "headless/ficheros_memoria.h"
+#include "tests/guion/selector_color.h"
 
 #include <functional>
 #include <string>
@@ -75,6 +77,12 @@ public:
     /// The answer to the next question that the table asks.
     virtual void responde(Respuesta respuesta) = 0;
     virtual void coma_decimal(bool coma) = 0;
+    /// The files that the table sees; they are in memory for every driver.
+    [[nodiscard]] virtual FicherosMemoria& ficheros() = 0;
+    /// What the user chooses in the next file dialog; an empty path is a cancel.
+    virtual void elige_fichero(std::string ruta) = 0;
+    /// What the user does in the colour picker when it is shown next.
+    virtual void prepara_color(UsuarioColor usuario) = 0;
 
     // What happened and what is seen.
     /// Events, messages, beeps and capture points since the last call, one line each, in the form of

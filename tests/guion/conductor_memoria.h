@@ -6,6 +6,10 @@
 #include "headless/plataforma_memoria.h"
 #include "tests/guion/conductor.h"
 
+#include <string>
+#include <utility>
+#include <vector>
+
 namespace Qlt4_Tabla {
 
 class ConductorMemoria final : public Conductor {
@@ -35,6 +39,14 @@ public:
     void responde(Respuesta respuesta) override { p_.mensajes.respuestas.push_back(respuesta); }
 
     void coma_decimal(bool coma) override { p_.separador.coma = coma; }
+
+    [[nodiscard]] FicherosMemoria& ficheros() override { return p_.ficheros; }
+
+    void elige_fichero(std::string ruta) override { p_.dialogo_fichero.rutas.push_back(std::move(ruta)); }
+
+    void prepara_color(UsuarioColor usuario) override {
+        p_.dialogo_color.usuario.push_back(std::move(usuario));
+    }
 
     [[nodiscard]] std::vector<std::string> recoge() override;
     [[nodiscard]] EditorVisto editor() override;

@@ -4,6 +4,8 @@
 
 #include "tests/guion/palabras.h"
 
+#include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <utility>
 
@@ -69,7 +71,9 @@ private:
         Palabras palabras(paso.texto.front() == '>' ? std::string_view() : std::string_view(paso.texto));
         if (palabras.toma("escena")) {
             if (repeticiones_ > 0) throw FalloGuion("a scene inside repite");
-            guion_.escenas.push_back({palabras.resto(), paso.linea, {}});
+            guion_.escenas.push_back({palabras.resto(), paso.linea, {}, {}});
+        } else if (palabras.toma("solo")) {
+            marca_solo_memoria(palabras);
         } else if (palabras.toma("repite")) {
             if (repeticiones_ > 0) throw FalloGuion("repite inside repite");
             repeticiones_ = palabras.entero();
@@ -80,6 +84,15 @@ private:
         } else {
             pasos().push_back(std::move(paso));
         }
+    }
+
+    void marca_solo_memoria(Palabras& palabras) {
+        palabras.exige("memoria:");
+        if (guion_.escenas.empty() || !guion_.escenas.back().pasos.empty() || repeticiones_ > 0)
+            throw FalloGuion("solo memoria stands right below its scene");
+        Escena& escena = guion_.escenas.back();
+        escena.solo_memoria = palabras.resto();
+        if (escena.solo_memoria.empty()) throw FalloGuion("solo memoria without a reason");
     }
 
     void escribe_repeticion() {
@@ -110,6 +123,23 @@ Guion lee_guion(const std::string& ruta) {
     std::ifstream entrada(ruta);
     if (!entrada) throw std::runtime_error(ruta + ":0: the file cannot be read");
     return lee_guion(entrada, ruta);
+}
+
+GuionesLeidos lee_carpeta(const std::string& carpeta) {
+    GuionesLeidos leidos;
+    std::vector<std::string> rutas;
+    std::error_code sin_carpeta;
+    for (const auto& f : std::filesystem::directory_iterator(carpeta, sin_carpeta))
+        if (f.path().extension() == ".guion") rutas.push_back(f.path().string());
+    std::sort(rutas.begin(), rutas.end());
+    for (const std::string& ruta : rutas) {
+        try {
+            leidos.guiones.push_back(lee_guion(ruta));
+        } catch (const std::runtime_error& e) {
+            leidos.fallos.emplace_back(e.what());
+        }
+    }
+    return leidos;
 }
 
 } // namespace Qlt4_Tabla

@@ -12,6 +12,7 @@
 //     > SelChange
 //     ? celda 1 1 = 12.500
 //
+// `solo memoria: REASON`, right below `escena`, keeps a scene away from the drivers of real windows.
 // The words stand in pasos.h. `cuando EVENT STEP` lets the host do a step inside the next such event.
 // Free of any test library: failures are texts "file:line: what".
 #pragma once
@@ -32,6 +33,7 @@ struct Paso {
 struct Escena {
     std::string nombre;
     int linea = 0;
+    std::string solo_memoria; ///< why no real window can run it; empty: any driver can
     std::vector<Paso> pasos;
 };
 
@@ -45,6 +47,14 @@ struct Guion {
 /// on). A script that cannot be read as such, or has no scene: std::runtime_error "file:line: what".
 [[nodiscard]] Guion lee_guion(std::istream& entrada, std::string fichero);
 [[nodiscard]] Guion lee_guion(const std::string& ruta);
+
+struct GuionesLeidos {
+    std::vector<Guion> guiones; ///< by the names of their files
+    std::vector<std::string> fallos; ///< why the others could not be read
+};
+
+/// All scripts of a folder; one that is not there has none.
+[[nodiscard]] GuionesLeidos lee_carpeta(const std::string& carpeta);
 
 /// Runs one scene of the script on a fresh table. Empty: passed. Else the first failure.
 [[nodiscard]] std::string ejecuta(const Guion& guion, const Escena& escena, Conductor& conductor);

@@ -18,6 +18,7 @@ namespace Qlt4_Tabla {
 //   lista COL A|B|C                         values of a list column; without values: an empty list
 //   texto ROW COL TEXT                      fondo ROW COL COLOUR        alto ROW TWIPS
 //   llama MEMBER ARGUMENTS...               any published method         pone MEMBER ARGUMENTS... VALUE
+//   elige_color COLOUR = CHOSEN             shows the picker and compares what it gives
 /// False when the first word is none of them.
 [[nodiscard]] bool paso_anfitrion(Conductor& conductor, std::string_view palabra, Palabras& resto);
 
@@ -38,11 +39,18 @@ namespace Qlt4_Tabla {
 //   portapapeles TEXT                       puts a text on the clipboard, in the table's own form
 //   portapapeles_cerrado                    from now on it can be neither read nor written
 //   responde si|no                          the answer to the next question
+//   elige_fichero PATH                      what the user chooses in the next file dialog; "" cancels
+//   corta_fichero PATH N                    the file is cut to its first N bytes
+//   falla_fichero PATH NUMBER               from now on reading and writing it give this error
 //   coma si|no                              does the platform write decimals with a comma?
+//   color STEP|STEP|...                     what the user does in the next colour picker: muestra INDEX,
+//                                           teclea TEXT (all of the box), Izquierda, Derecha, Arriba, Abajo, Aceptar, Cancelar,
+//                                           otros (all strips), capa (by layer)
 [[nodiscard]] bool paso_entorno(Conductor& conductor, std::string_view palabra, Palabras& resto);
 
 // Questions (preguntas.cpp), each after "?":
 //   celda ROW COL = TEXT    leida ROW COL = TEXT (as the host reads it)     fondo ROW COL = COLOUR|nada
+//   letra ROW COL = COLOUR (of the text)
 //   filas N    columnas N   actual ROW COL   seleccion ROW COL ROW COL (current cell, far corner)
 //   modo libre|filas        arriba ROW       ve ROW COL (the cell is seen whole)    ancho COL = TWIPS
 //   casilla abierta TEXT [cursor N] [marca START LENGTH]      casilla cerrada
@@ -50,6 +58,7 @@ namespace Qlt4_Tabla {
 //   editor sobre ROW COL                     which cell is edited, and the editor lies over it
 //   mensaje visible TEXT    mensaje oculto   mensaje estado TEXT (hidden, with this caption)
 //   modificado 0|1          marcada ITEM si|no      activa ITEM si|no       portapapeles = TEXT
+//   fichero PATH si|no                       is there such a file?
 /// Fails with a FalloGuion when the answer is another one.
 void pregunta(Conductor& conductor, std::string_view texto);
 

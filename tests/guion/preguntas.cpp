@@ -57,6 +57,12 @@ void fondo(Conductor& c, Palabras& p) {
     compara(p.palabra(), hay ? std::to_string(t.color_fondo(celda.fila, celda.col)) : "nada");
 }
 
+void letra(Conductor& c, Palabras& p) {
+    const Celda celda = p.celda();
+    p.exige("=");
+    compara(p.palabra(), std::to_string(tablero(c).color_texto(celda.fila, celda.col)));
+}
+
 void seleccion(Conductor& c, Palabras& p) {
     const Tablero& t = tablero(c);
     compara_numeros(p, {t.Row(), t.Col(), t.RowSel(), t.ColSel()});
@@ -157,7 +163,14 @@ void portapapeles(Conductor& c, Palabras& p) {
     compara(p.resto(), c.portapapeles());
 }
 
-constexpr std::array<std::pair<std::string_view, Pregunta>, 20> PREGUNTAS{{
+void fichero(Conductor& c, Palabras& p) {
+    const std::string nombre = p.palabra();
+    compara(p.palabra(), c.ficheros().contenidos.contains(nombre) ? "si" : "no");
+}
+
+constexpr std::array<std::pair<std::string_view, Pregunta>, 22> PREGUNTAS{{
+    {"letra", letra},
+    {"fichero", fichero},
     {"celda", celda},
     {"leida", leida},
     {"fondo", fondo},

@@ -157,7 +157,7 @@ constexpr std::array<std::pair<std::string_view, Paso>, 15> PASOS{{
 } // namespace
 
 Opcion opcion_de_nombre(std::string_view nombre) {
-    constexpr std::array<std::pair<std::string_view, Opcion>, 20> NOMBRES{{
+    constexpr std::array<std::pair<std::string_view, Opcion>, 22> NOMBRES{{
         {"mn_Deshacer", Opcion::mn_Deshacer},
         {"mn_Rehacer", Opcion::mn_Rehacer},
         {"mn_cortar", Opcion::mn_cortar},
@@ -175,6 +175,8 @@ Opcion opcion_de_nombre(std::string_view nombre) {
         {"mn_añadir_filas", Opcion::mn_añadir_filas},
         {"mn_eliminar_vacias", Opcion::mn_eliminar_vacias},
         {"mn_borrar_seleccion", Opcion::mn_borrar_seleccion},
+        {"Mnu_Tabla_Leer", Opcion::Mnu_Tabla_Leer},
+        {"Mnu_Tabla_Guardar_como", Opcion::Mnu_Tabla_Guardar_como},
         {"MN_avance_horizontal", Opcion::MN_avance_horizontal},
         {"mn_Especial_puntos_Avance", Opcion::mn_Especial_puntos_Avance},
         {"mn_salir", Opcion::mn_salir},
@@ -187,7 +189,11 @@ Opcion opcion_de_nombre(std::string_view nombre) {
 bool paso_usuario(Conductor& conductor, std::string_view palabra, Palabras& resto) {
     for (const auto& [nombre, paso] : PASOS) {
         if (nombre != palabra) continue;
-        paso(conductor, resto);
+        try {
+            paso(conductor, resto);
+        } catch (const Error& e) { // such as a cell outside the grid
+            throw FalloGuion("error " + std::to_string(e.numero()));
+        }
         resto.fin();
         return true;
     }
