@@ -10,6 +10,7 @@
 #include "control/miembros.h"
 #include "control/portapapeles.h"
 #include "control/textos.h"
+#include "core/ajustes_formatos.h"
 #include "core/ciclo_vida.h"
 #include "core/columnas_matriz.h"
 #include "core/computos.h"
@@ -143,11 +144,15 @@ void Tabla0::Copiar_Todo() { copia_en_hoja(e_); }
 
 void Tabla0::Copiar_todo_Excel() { copia_en_hoja(e_); }
 
-// No rule yet.
-void Tabla0::Tablero_Lee_Formato_Win(const std::string&, const std::string&) {}
+void Tabla0::Tablero_Lee_Formato_Win(const std::string& t_apli, const std::string& t_cap) {
+    protege(e_, miembro("Tablero_Lee_Formato_Win"),
+        [&] { Qlt4_Tabla::Tablero_Lee_Formato_Win(e_, t_apli, t_cap); });
+}
 
-// No rule yet.
-void Tabla0::Tablero_Graba_Formato_Win(const std::string&, const std::string&) {}
+void Tabla0::Tablero_Graba_Formato_Win(const std::string& t_apli, const std::string& t_cap) {
+    protege(e_, miembro("Tablero_Graba_Formato_Win"),
+        [&] { Qlt4_Tabla::Tablero_Graba_Formato_Win(e_, t_apli, t_cap); });
+}
 
 void Tabla0::Tablero_establece_Formato() {
     protege(e_, miembro("Tablero_establece_Formato"), [&] { Qlt4_Tabla::Tablero_establece_Formato(e_); });
@@ -196,8 +201,10 @@ void Tabla0::Color_Fila(std::int32_t fila, std::int32_t columIni, std::int32_t c
     protege(e_, miembro("Color_Fila"), [&] { Qlt4_Tabla::Color_Fila(e_, fila, columIni, colmFin, valor); });
 }
 
-// No rule yet.
-void Tabla0::A_actualizaEditor(bool) {}
+void Tabla0::A_actualizaEditor(bool valor) {
+    if (!valor) return;
+    protege(e_, miembro("A_actualizaEditor"), [&] { Qlt4_Tabla::Tablero_establece_Formato(e_); });
+}
 
 std::string Tabla0::A_ExtensionFche() {
     return protege(e_, miembro("A_ExtensionFche"), [&] { return e_.nombres.extension(); });

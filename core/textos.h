@@ -63,6 +63,8 @@ inline constexpr std::string_view numero_de_filas = ": Nº de filas =";
 inline constexpr std::string_view columna_sin_nombre = "Col ";
 /// Extension pattern of table files until the host gives another.
 inline constexpr std::string_view extension_inicial = "*.tb0";
+/// And of a stored layout that has none; the capital letter is intended.
+inline constexpr std::string_view extension_de_ajustes = "*.Tb0";
 
 // Values for a column that is no list column: this, Str(column), the end.
 inline constexpr std::string_view no_es_lista_antes = "ERROR tabla.ocx: la columna ";

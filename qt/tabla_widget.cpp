@@ -101,6 +101,8 @@ const Tabla0& TablaWidget::tabla() const { return yo_->tabla; }
 
 void TablaWidget::pon_coma_decimal(std::optional<bool> coma) { yo_->puertos.pon_coma_decimal(coma); }
 
+void TablaWidget::pon_fichero_ajustes(const QString& fichero) { yo_->puertos.ajustes().pon_fichero(fichero); }
+
 QSize TablaWidget::sizeHint() const { return {480, 320}; }
 
 QSize TablaWidget::minimumSizeHint() const { return {120, 90}; }

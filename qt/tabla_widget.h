@@ -42,6 +42,10 @@ public:
     /// locale does.
     void pon_coma_decimal(std::optional<bool> coma);
 
+    /// Where layouts and places of windows are kept from now on: a file of the host's own, or with an empty
+    /// name the user's file for all tables.
+    void pon_fichero_ajustes(const QString& fichero);
+
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 

@@ -199,6 +199,42 @@ TEST_P(FormatosTabla, TheMisspeltPickerChangesNoArgument) {
     EXPECT_TRUE(p.registro.empty());
 }
 
+TEST_P(FormatosTabla, TheLayoutComesBackFromTheSettings) {
+    da_formato(1, T_formato::Real__, 2);
+    t.Tablero_Nombres("Plano", "Puntos", "*.pt");
+    t.Tablero_Graba_Formato_Win("Plano", "Puntos");
+    const T_FormatoColumna escrito = formato(1);
+    t.Formatcol(1, "", "X", 4, 0, 0, 3, "Otro");
+    t.A_ExtensionFche("*.zz");
+    t.TextMatrix(1, 1, "1");
+    t.Tablero_Lee_Formato_Win("Plano", "Puntos");
+    EXPECT_EQ(formato(1), escrito);
+    EXPECT_EQ(t.A_ExtensionFche(), "*.pt");
+    EXPECT_EQ(celda(1, 1), "1.00");
+    EXPECT_EQ(g().ColWidth(1), 1200);
+}
+
+TEST_P(FormatosTabla, WritingTheLayoutTellsTheStoresErrorAndReadingNone) {
+    p.ajustes.falla(75);
+    EXPECT_EQ(numero_error([&] { t.Tablero_Graba_Formato_Win("a", "b"); }), 75);
+    t.FormatoColumnas(
+        1, false, false, T_formato::Alfanm, 0, T_Alineacion::Izqda, T_Accion::Nada__, 300, "Ancha");
+    EXPECT_EQ(numero_error([&] { t.Tablero_Lee_Formato_Win("a", "b"); }), 0);
+    EXPECT_TRUE(g().Redraw());
+    EXPECT_TRUE(p.registro.empty());
+}
+
+TEST_P(FormatosTabla, TrueAppliesTheFormatsAndFalseDoesNothing) {
+    da_formato(1, T_formato::Alfanm);
+    t.A_actualizaEditor(false);
+    EXPECT_EQ(celda(0, 1), "");
+    t.A_actualizaEditor(true);
+    EXPECT_EQ(celda(0, 1), "C");
+    t.FormatoColumnas(
+        1, false, false, T_formato::Alfanm, 0, T_Alineacion::Izqda, T_Accion::Nada__, 300, "Ancha");
+    EXPECT_EQ(numero_error([&] { t.A_actualizaEditor(true); }), 6);
+}
+
 // Their rules are still to come; until then a host may call them without harm.
 TEST_P(FormatosTabla, MembersWithoutRuleLeaveTheTableAlone) {
     da_formato(1, T_formato::Entero);
@@ -206,9 +242,6 @@ TEST_P(FormatosTabla, MembersWithoutRuleLeaveTheTableAlone) {
     p.registro.clear();
     static_cast<void>(p.vista.recoge());
     t.A_Edicion_Columnas_Off();
-    t.Tablero_Lee_Formato_Win("a", "b");
-    t.Tablero_Graba_Formato_Win("a", "b");
-    t.A_actualizaEditor(true);
     EXPECT_TRUE(p.vista.avisos.empty());
     EXPECT_TRUE(p.registro.empty());
 }
