@@ -112,7 +112,7 @@ void PintorRejilla::pinta_columna(const Columna& c, const QRect& zona, bool fila
                 continue;
             }
         }
-        pinta_celda(fila, c.col, QRect(c.x1, y1, c.x2 - c.x1, y2 - y1));
+        if (y1 < y2) pinta_celda(fila, c.col, QRect(c.x1, y1, c.x2 - c.x1, y2 - y1));
     }
 }
 

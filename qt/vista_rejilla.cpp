@@ -62,6 +62,7 @@ void VistaRejilla::editor_oculto() {
         confirma_editor();
     else
         tabla_.mandos().editor().descarta();
+    if (!hasFocus()) viewport()->update(); // with the editor it lost the look of having the focus
 }
 
 void VistaRejilla::confirma_editor() {

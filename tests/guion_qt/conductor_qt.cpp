@@ -9,6 +9,7 @@
 #include "qt/vista_rejilla.h"
 #include "tests/guion/palabras.h"
 #include "tests/qt/manos.h"
+#include "tests/qt/pantalla.h"
 
 #include <QAbstractItemView>
 #include <QClipboard>
@@ -81,6 +82,7 @@ ConductorQt::ConductorQt() {
     vista_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     vista_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     widget_->pon_coma_decimal(false);
+    QApplication::setCursorFlashTime(0);
     QApplication::clipboard()->clear();
     escucha();
     otro_->setGeometry(0, 0, 200, ALTO_OTRO_PX);
@@ -269,9 +271,18 @@ std::string ConductorQt::portapapeles() { return QApplication::clipboard()->text
 
 std::vector<std::string> ConductorQt::recoge() {
     atiende();
+    comprueba_pintura();
     std::vector<std::string> lineas = p_.recoge();
     std::erase_if(lineas, [](const std::string& linea) { return linea.starts_with("puntero "); });
     return lineas;
+}
+
+// What is on the screen is what a whole repaint gives. While redrawing is off it is to be older.
+void ConductorQt::comprueba_pintura() {
+    if (!tablero().Redraw()) return;
+    if (const auto lugar = manos::lugar_sin_pintar(*vista_->viewport()))
+        p_.registro.push_back(
+            "not repainted: " + std::to_string(lugar->x()) + ' ' + std::to_string(lugar->y()));
 }
 
 EditorVisto ConductorQt::editor() {

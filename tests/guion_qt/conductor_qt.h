@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // ConductorQt: drives a table on a shown, active window with real events of the toolkit, sent to the window
 // as the system sends them. Grid, editors, focus and clipboard are the widget's own; a message is shown in a
-// real box, read and answered there. Files, settings, file dialog and colour picker are those of the
+// real box, read and answered there. Whatever happens, the screen must show what a whole repaint would: a
+// place that does not is a line of the record, "not repainted: x y". Files, settings, file dialog and colour picker are those of the
 // platform in memory, so that a script sees the same world as without a window.
 #pragma once
 
@@ -68,6 +69,7 @@ private:
     [[nodiscard]] QPoint punto_pulsable(Celda celda) const; // the same; outside, really outside
     void escucha();
     void activa();
+    void comprueba_pintura();
     void atiende(); // what waits in the queue of events: paints, sizes, deferred calls
 
     PlataformaMemoria p_;
