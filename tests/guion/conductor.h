@@ -11,6 +11,7 @@
 #include "core/geometria.h"
 #include "editing/editor_celda.h"
 #include "headless/ficheros_memoria.h"
+#include "headless/foco_memoria.h"
 #include "tests/guion/selector_color.h"
 
 #include <functional>
@@ -40,18 +41,28 @@ struct EditorVisto {
     Rectangulo sitio;
 };
 
+/// What the labels below the grid show; empty: nothing.
+struct EtiquetasVistas {
+    std::string numero_filas;
+    std::string mensaje;
+};
+
 class Conductor {
 public:
     virtual ~Conductor() = default;
 
     // The user.
     virtual void pulsa(const Pulsacion& tecla) = 0;
+    /// A text from an input method or a dead key, to whoever has the focus.
+    virtual void compone(std::string_view texto) = 0;
     /// Left click on a cell; row and column -1: on the grid beyond its last cell.
     virtual void clic(Celda celda, Modificadores mods) = 0;
     virtual void doble_clic(Celda celda) = 0;
     /// Presses on one cell, moves to the other, releases there.
     virtual void arrastra(Celda desde, Celda hasta, Modificadores mods) = 0;
     virtual void rueda(int signo) = 0;
+    /// Drags the bar of the rows until this row is the top one.
+    virtual void barra(int fila) = 0;
     /// Moves in the open list to an entry: by the keyboard, or clicks it.
     virtual void elige_entrada(std::string_view texto, bool con_raton) = 0;
     /// The editor or the grid loses the focus for this reason...
@@ -89,6 +100,8 @@ public:
     /// headless/plataforma_memoria.h. The pointer is none of them.
     [[nodiscard]] virtual std::vector<std::string> recoge() = 0;
     [[nodiscard]] virtual EditorVisto editor() = 0;
+    [[nodiscard]] virtual EtiquetasVistas etiquetas() = 0;
+    [[nodiscard]] virtual Foco foco() = 0;
 };
 
 } // namespace Qlt4_Tabla

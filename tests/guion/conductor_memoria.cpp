@@ -33,6 +33,17 @@ void ConductorMemoria::pulsa_en_tablero(const Pulsacion& tecla) {
     if (tecla.caracter != 0 && !mando) tabla_.mandos().tecla_pulsada(codigo_tecla(tecla.caracter));
 }
 
+// All of it goes where its first character does.
+void ConductorMemoria::compone(std::string_view texto) {
+    const Foco donde = p_.foco.actual();
+    for (std::size_t i = 0; i < texto.size(); i = utf8::siguiente(texto, i)) {
+        const char32_t punto = utf8::decodifica(texto, i).punto;
+        if (donde == Foco::Tablero) tabla_.mandos().tecla_pulsada(codigo_tecla(punto));
+        if (donde == Foco::Casilla) pulsa_en_casilla({teclas::NINGUNA, punto, {}});
+    }
+    obedece();
+}
+
 void ConductorMemoria::pulsa_en_casilla(const Pulsacion& tecla) {
     if (tecla.caracter == 0) return mueve_cursor(tecla.KeyCode);
     const int pasa = tabla_.mandos().tecla_casilla(codigo_tecla(tecla.caracter));
@@ -110,6 +121,11 @@ void ConductorMemoria::rueda(int signo) {
     obedece();
 }
 
+void ConductorMemoria::barra(int fila) {
+    tabla_.mandos().desplaza_filas(fila);
+    obedece();
+}
+
 void ConductorMemoria::elige_entrada(std::string_view texto, bool con_raton) {
     if (!p_.lista.visible()) throw FalloGuion("the list is not open");
     p_.lista.elige(texto);
@@ -170,6 +186,12 @@ EditorVisto ConductorMemoria::editor() {
         visto.sitio = p_.lista.celda();
     }
     return visto;
+}
+
+EtiquetasVistas ConductorMemoria::etiquetas() {
+    const Etiquetas& e = tabla_.estado().etiquetas;
+    return {e.labNumeroFilas.visible ? e.labNumeroFilas.texto : "",
+        e.labMensaje.visible ? e.labMensaje.texto : ""};
 }
 
 void ConductorMemoria::obedece() {

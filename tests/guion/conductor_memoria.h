@@ -17,10 +17,12 @@ public:
     ConductorMemoria();
 
     void pulsa(const Pulsacion& tecla) override;
+    void compone(std::string_view texto) override;
     void clic(Celda celda, Modificadores mods) override;
     void doble_clic(Celda celda) override;
     void arrastra(Celda desde, Celda hasta, Modificadores mods) override;
     void rueda(int signo) override;
+    void barra(int fila) override;
     void elige_entrada(std::string_view texto, bool con_raton) override;
     void pierde_foco(MotivoFoco motivo) override;
     void recupera_foco() override;
@@ -50,6 +52,9 @@ public:
 
     [[nodiscard]] std::vector<std::string> recoge() override;
     [[nodiscard]] EditorVisto editor() override;
+    [[nodiscard]] EtiquetasVistas etiquetas() override;
+
+    [[nodiscard]] Foco foco() override { return p_.foco.actual(); }
 
     [[nodiscard]] PlataformaMemoria& plataforma() { return p_; }
 

@@ -25,9 +25,11 @@ namespace Qlt4_Tabla {
 // Steps of the user (usuario.cpp):
 //   pulsa [Mayus+][Ctrl+][Alt+]KEY          one key by its name (tecla is the same word)
 //   teclea TEXT                             the keys of a text, one after another
+//   compone TEXT                            a text of an input method or a dead key
 //   clic ROW COL [Mayus]    clic fuera      doble ROW COL
 //   arrastra ROW COL ROW COL [Mayus]        rueda SIGN [TIMES]
 //   entrada TEXT            clic_entrada TEXT      in the open list, by the keyboard or with the mouse
+//   barra ROW                               the bar of the rows is dragged until ROW is the top one
 //   foco fuera|menu|ventana|vuelve          borde COL TWIPS
 //   ventana WIDTH ROWS                      room for so many data rows below the header
 //   elige ROW COL [ROW COL]                 as an assistive program or the host moves the cursor
@@ -57,6 +59,7 @@ namespace Qlt4_Tabla {
 //   lista abierta TEXT      lista cerrada    entradas A|B|C   editor cerrado
 //   editor sobre ROW COL                     which cell is edited, and the editor lies over it
 //   mensaje visible TEXT    mensaje oculto   mensaje estado TEXT (hidden, with this caption)
+//   etiqueta TEXT (of labNumeroFilas)        foco tablero|casilla|lista|fuera
 //   modificado 0|1          marcada ITEM si|no      activa ITEM si|no       portapapeles = TEXT
 //   fichero PATH si|no                       is there such a file?
 /// Fails with a FalloGuion when the answer is another one.

@@ -131,9 +131,20 @@ void mensaje(Conductor& c, Palabras& p) {
     const Etiqueta& etiqueta = c.tabla().estado().etiquetas.labMensaje;
     const bool visible = p.toma("visible");
     compara(visible ? "visible" : "hidden", etiqueta.visible ? "visible" : "hidden");
+    compara(etiqueta.visible ? etiqueta.texto : "", c.etiquetas().mensaje);
     if (!visible && p.toma("oculto")) return;
     if (!visible) p.exige("estado");
     compara(p.resto(), etiqueta.texto);
+}
+
+void etiqueta(Conductor& c, Palabras& p) { compara(p.resto(), c.etiquetas().numero_filas); }
+
+void foco(Conductor& c, Palabras& p) {
+    constexpr std::array<std::pair<std::string_view, Foco>, 4> NOMBRES{{{"tablero", Foco::Tablero},
+        {"casilla", Foco::Casilla}, {"lista", Foco::Lista}, {"fuera", Foco::Nadie}}};
+    const std::string esperado = p.palabra();
+    for (const auto& [nombre, quien] : NOMBRES)
+        if (quien == c.foco()) compara(esperado, std::string(nombre));
 }
 
 void modo(Conductor& c, Palabras& p) {
@@ -168,7 +179,9 @@ void fichero(Conductor& c, Palabras& p) {
     compara(p.palabra(), c.ficheros().contenidos.contains(nombre) ? "si" : "no");
 }
 
-constexpr std::array<std::pair<std::string_view, Pregunta>, 22> PREGUNTAS{{
+constexpr std::array<std::pair<std::string_view, Pregunta>, 24> PREGUNTAS{{
+    {"etiqueta", etiqueta},
+    {"foco", foco},
     {"letra", letra},
     {"fichero", fichero},
     {"celda", celda},

@@ -136,14 +136,16 @@ void boton(Conductor& c, Palabras& p) {
     if (!c.tabla().mandos().boton(clave)) throw FalloGuion("no button: " + clave);
 }
 
-constexpr std::array<std::pair<std::string_view, Paso>, 15> PASOS{{
+constexpr std::array<std::pair<std::string_view, Paso>, 17> PASOS{{
     {"pulsa", pulsa},
     {"tecla", pulsa},
     {"teclea", teclea},
+    {"compone", [](Conductor& c, Palabras& p) { c.compone(p.resto()); }},
     {"clic", clic},
     {"doble", [](Conductor& c, Palabras& p) { c.doble_clic(p.celda()); }},
     {"arrastra", arrastra},
     {"rueda", rueda},
+    {"barra", [](Conductor& c, Palabras& p) { c.barra(p.entero()); }},
     {"entrada", [](Conductor& c, Palabras& p) { c.elige_entrada(p.resto(), false); }},
     {"clic_entrada", [](Conductor& c, Palabras& p) { c.elige_entrada(p.resto(), true); }},
     {"foco", foco},

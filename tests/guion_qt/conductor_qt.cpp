@@ -13,6 +13,8 @@
 
 #include <QAbstractItemView>
 #include <QClipboard>
+#include <QInputMethodEvent>
+#include <QLabel>
 #include <QScrollBar>
 
 #include <array>
@@ -144,6 +146,13 @@ void ConductorQt::pulsa(const Pulsacion& tecla) {
     atiende();
 }
 
+void ConductorQt::compone(std::string_view texto) {
+    QInputMethodEvent e;
+    e.setCommitString(a_qstring(texto));
+    if (QWidget* quien = QApplication::focusWidget()) QApplication::sendEvent(quien, &e);
+    atiende();
+}
+
 QPoint ConductorQt::punto_de(Celda celda) const {
     const Tablero& t = tablero();
     const Unidades u = vista_->unidades();
@@ -184,6 +193,11 @@ void ConductorQt::arrastra(Celda desde, Celda hasta, Modificadores mods) {
 
 void ConductorQt::rueda(int signo) {
     manos::rueda(*vista_->viewport(), vista_->viewport()->rect().center(), {0, signo * MUESCA});
+    atiende();
+}
+
+void ConductorQt::barra(int fila) {
+    vista_->verticalScrollBar()->setSliderPosition(fila);
     atiende();
 }
 
@@ -307,6 +321,20 @@ EditorVisto ConductorQt::editor() {
         visto.sitio = en_twips(lista_->geometry());
     }
     return visto;
+}
+
+EtiquetasVistas ConductorQt::etiquetas() {
+    const auto texto = [this](const char* nombre) {
+        const auto* label = widget_->findChild<QLabel*>(QString::fromLatin1(nombre));
+        return label != nullptr && label->isVisible() ? label->text().toStdString() : std::string();
+    };
+    return {texto("labNumeroFilas"), texto("labMensaje")};
+}
+
+Foco ConductorQt::foco() {
+    if (casilla_->hasFocus()) return Foco::Casilla;
+    if (lista_->hasFocus()) return Foco::Lista;
+    return vista_->hasFocus() ? Foco::Tablero : Foco::Nadie;
 }
 
 } // namespace Qlt4_Tabla

@@ -29,10 +29,12 @@ public:
     ~ConductorQt() override;
 
     void pulsa(const Pulsacion& tecla) override;
+    void compone(std::string_view texto) override;
     void clic(Celda celda, Modificadores mods) override;
     void doble_clic(Celda celda) override;
     void arrastra(Celda desde, Celda hasta, Modificadores mods) override;
     void rueda(int signo) override;
+    void barra(int fila) override;
     void elige_entrada(std::string_view texto, bool con_raton) override;
     void pierde_foco(MotivoFoco motivo) override;
     void recupera_foco() override;
@@ -61,6 +63,8 @@ public:
 
     [[nodiscard]] std::vector<std::string> recoge() override;
     [[nodiscard]] EditorVisto editor() override;
+    [[nodiscard]] EtiquetasVistas etiquetas() override;
+    [[nodiscard]] Foco foco() override;
 
 private:
     [[nodiscard]] Plataforma sustituye(const Plataforma& suya);
