@@ -4,6 +4,7 @@
 
 #include "clipboard/copia.h"
 #include "clipboard/pega.h"
+#include "control/editor_columnas.h"
 #include "control/ficheros.h"
 #include "control/guarda.h"
 #include "control/portapapeles.h"
@@ -48,7 +49,7 @@ void pega(EstadoTabla& e) { Pegar_Portapapeles(e, false); }
 
 void pega_con_punto(EstadoTabla& e) { Pegar_Portapapeles(e, true); }
 
-constexpr std::array<Orden, 22> ORDENES{{
+constexpr std::array<Orden, 24> ORDENES{{
     {Opcion::mn_Deshacer, "mn_Deshacer", [](EstadoTabla&) {}}, // undo does nothing
     {Opcion::mn_Rehacer, "mn_Rehacer", rehace},
     {Opcion::mn_cortar, "mn_cortar", corta_seleccion},
@@ -67,6 +68,8 @@ constexpr std::array<Orden, 22> ORDENES{{
     {Opcion::Mnu_Tabla_Guardar_como, "Mnu_Tabla_Guardar_como", Mnu_Tabla_Guardar_como},
     {Opcion::MN_avance_horizontal, "MN_avance_horizontal", alterna_avance},
     {Opcion::mn_Especial_puntos_Avance, "mn_Especial_puntos_Avance", alterna_avance},
+    {Opcion::MN_editor_de_columnas, "MN_editor_de_columnas", edita_columnas},
+    {Opcion::mn_Especial_puntos_columnas, "mn_Especial_puntos_columnas", edita_columnas},
     {Opcion::mn_salir, "mn_salir", [](EstadoTabla& e) { e.eventos.Salir(); }},
     {Opcion::mn_Especial_puntos_Copia, "mn_Especial_puntos_Copia", copia},
     {Opcion::mn_copiar1, "mn_copiar1", copia},

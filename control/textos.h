@@ -13,6 +13,9 @@ inline constexpr std::string_view antes_de_miembro = "Tabla ";
 inline constexpr std::string_view antes_de_numero = " - Error nº ";
 inline constexpr std::string_view antes_de_descripcion = ": ";
 
+/// The column editor, where a member has its name.
+inline constexpr std::string_view lugar_editor_columnas = "Editor de columnas";
+
 // Of the colour picker: "ERROR en Vdk_Sys.DLL Nº75", a new line, a blank, the description, a new line, its place.
 inline constexpr std::string_view prefijo_color = "ERROR en Vdk_Sys.DLL Nº";
 inline constexpr std::string_view antes_de_descripcion_color = "\r\n ";

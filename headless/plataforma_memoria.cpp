@@ -87,7 +87,7 @@ void EventosMemoria::sucede(const std::string& evento) {
 
 Plataforma PlataformaMemoria::plataforma(VistaTablero& otra_vista) {
     return {otra_vista, marco, casilla, lista, mensajes, separador, pasos, ajustes, ficheros, dialogo_fichero,
-        portapapeles, hoja_calculo, dialogo_color};
+        portapapeles, hoja_calculo, dialogo_color, dialogo_columnas};
 }
 
 } // namespace Qlt4_Tabla

@@ -4,7 +4,8 @@
 // a test compares exact sequences:
 //   "SelChange", "CambiaCasilla", "Salir", "ACambiadoValorCombo 2 3", "mensaje|16|titulo|texto", "pitido",
 //   "puntero 11", "propiedad Rows", "captura", "restaura 1", "ajuste application|section|key=value",
-//   "dialogo_fichero abrir|title|filter|folder|name|extension", "dialogo_color title", "hoja muestra"
+//   "dialogo_fichero abrir|title|filter|folder|name|extension", "dialogo_color title",
+//   "dialogo_columnas title", "hoja muestra"
 // Notices of view, labels, menus and sizes are kept or counted apart. Read on in vista_memoria.h and
 // editores_memoria.h.
 #pragma once
@@ -12,6 +13,7 @@
 #include "base/imagen.h"
 #include "headless/ajustes_memoria.h"
 #include "headless/dialogo_color_memoria.h"
+#include "headless/dialogo_columnas_memoria.h"
 #include "headless/dialogo_fichero_memoria.h"
 #include "headless/editores_memoria.h"
 #include "headless/ficheros_memoria.h"
@@ -185,6 +187,7 @@ struct PlataformaMemoria {
     PortapapelesMemoria portapapeles;
     HojaCalculoMemoria hoja_calculo{registro};
     DialogoColorMemoria dialogo_color{registro};
+    DialogoColumnasMemoria dialogo_columnas{registro};
     BolsaMemoria bolsa;
     EventosMemoria eventos{registro};
 

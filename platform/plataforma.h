@@ -7,6 +7,7 @@
 #include "platform/almacen_pasos.h"
 #include "platform/caja_texto.h"
 #include "platform/dialogo_color.h"
+#include "platform/dialogo_columnas.h"
 #include "platform/dialogo_fichero.h"
 #include "platform/ficheros.h"
 #include "platform/hoja_calculo.h"
@@ -33,6 +34,7 @@ struct Plataforma {
     Portapapeles& portapapeles;
     HojaCalculo& hoja_calculo;
     DialogoColor& dialogo_color;
+    DialogoColumnas& dialogo_columnas;
 };
 
 } // namespace Qlt4_Tabla

@@ -45,4 +45,9 @@ namespace Qlt4_Tabla {
     return paleta.color(QPalette::Base).lightness() < 128;
 }
 
+/// What a message beside the controls is written in.
+[[nodiscard]] inline QColor tinta_de_aviso(const QPalette& paleta) {
+    return es_oscura(paleta) ? QColor(0xFF, 0x9A, 0x8A) : QColor(0xA8, 0x1C, 0x07);
+}
+
 } // namespace Qlt4_Tabla

@@ -4,12 +4,12 @@
 
 #include "qt/accesible.h"
 #include "qt/colores_qt.h"
+#include "qt/sitio_ventana.h"
 #include "qt/texto_qt.h"
 #include "qt/textos.h"
 #include "qt/tira_muestras.h"
 #include "qt/unidades.h"
 
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -17,7 +17,6 @@
 #include <QPainter>
 #include <QPointer>
 #include <QPushButton>
-#include <QScreen>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -30,7 +29,6 @@ namespace {
 constexpr int ALTO_PLEGADO = 1785; // twips
 constexpr int MARGEN_PX = 10;
 constexpr int ESPACIO_PX = 8;
-constexpr QSize MARCO(16, 40); // room for the window's frame, before it is known
 constexpr const char* NOMBRES_TIRA[] = {"Pc_color_normal", "Pc_color_grises", "Pc_color_especial"};
 constexpr std::string_view VOCES_TIRA[] = {textos::tira_normal, textos::tira_grises, textos::tira_especial};
 
@@ -202,7 +200,7 @@ void VentanaColor::pinta_muestra(QLabel& label, std::int32_t color) {
 
 void VentanaColor::tine_error() {
     QPalette p = palette();
-    p.setColor(QPalette::WindowText, es_oscura(p) ? QColor(0xFF, 0x9A, 0x8A) : QColor(0xA8, 0x1C, 0x07));
+    p.setColor(QPalette::WindowText, tinta_de_aviso(p));
     if (error_->palette() != p) error_->setPalette(p);
 }
 
@@ -213,7 +211,7 @@ void VentanaColor::ajusta_talla() {
     if (!modelo_.visto().desplegado)
         talla.setHeight(std::max(talla.height(), Unidades(*this).px_y(ALTO_PLEGADO)));
     setFixedSize(talla);
-    if (isVisible() && dentro_de_pantalla(pos()) != pos()) move(dentro_de_pantalla(pos()));
+    if (isVisible() && dentro_de_pantalla(*this, pos()) != pos()) move(dentro_de_pantalla(*this, pos()));
 }
 
 // The keyboard goes on where the marked swatch is; the box keeps it once the user types there.
@@ -228,20 +226,8 @@ void VentanaColor::coloca() {
     const Unidades u(*this);
     const VistoColor& v = modelo_.visto();
     const QPoint p(u.px_x(a_twips_enteros(v.izquierda)), u.px_y(a_twips_enteros(v.arriba)));
-    puesta_en_ = dentro_de_pantalla(p);
+    puesta_en_ = dentro_de_pantalla(*this, p);
     move(puesta_en_);
-}
-
-QPoint VentanaColor::dentro_de_pantalla(QPoint p) const {
-    const QScreen* pantalla = QGuiApplication::screenAt(p);
-    if (pantalla == nullptr) pantalla = screen();
-    const QRect libre = pantalla->availableGeometry();
-    const QSize talla = isVisible() ? frameGeometry().size() : size() + MARCO;
-    const auto sujeta = [](int x, int primero, int ultimo) {
-        return std::clamp(x, primero, std::max(primero, ultimo));
-    };
-    return {sujeta(p.x(), libre.left(), libre.right() - talla.width() + 1),
-        sujeta(p.y(), libre.top(), libre.bottom() - talla.height() + 1)};
 }
 
 QPointF VentanaColor::sitio() const {

@@ -47,7 +47,6 @@ private:
     void tine_error();
     void ajusta_talla();
     void enfoca_marcada();
-    [[nodiscard]] QPoint dentro_de_pantalla(QPoint p) const;
 
     ModeloColor& modelo_;
     std::array<TiraMuestras*, 3> tiras_{};

@@ -34,7 +34,8 @@ int a_unidades(const QString& texto, int caracteres) {
 
 } // namespace
 
-PuertosQt::PuertosQt(TablaWidget& widget) : widget_(widget), dialogo_(widget), dialogo_color_(widget) {}
+PuertosQt::PuertosQt(TablaWidget& widget)
+    : widget_(widget), dialogo_(widget), dialogo_color_(widget), dialogo_columnas_(widget) {}
 
 PuertosQt::~PuertosQt() {
     if (reloj_) QApplication::restoreOverrideCursor();
@@ -42,7 +43,7 @@ PuertosQt::~PuertosQt() {
 
 Plataforma PuertosQt::plataforma() {
     return {*this, *this, *this, lista_, *this, *this, pasos_, ajustes_, ficheros_, dialogo_, portapapeles_,
-        hoja_, dialogo_color_};
+        hoja_, dialogo_color_, dialogo_columnas_};
 }
 
 void PuertosQt::conecta(VistaRejilla& vista, Casilla& casilla, ListaCelda& lista) {

@@ -8,6 +8,7 @@
 #include "platform/plataforma.h"
 #include "qt/ajustes_qt.h"
 #include "qt/dialogo_color.h"
+#include "qt/dialogo_columnas.h"
 #include "qt/dialogo_fichero_qt.h"
 #include "qt/portapapeles_qt.h"
 
@@ -107,6 +108,7 @@ private:
     PortapapelesQt portapapeles_;
     HojaCalculoNula hoja_;
     DialogoColorQt dialogo_color_;
+    DialogoColumnasQt dialogo_columnas_;
     std::optional<bool> coma_;
     bool reloj_ = false;
 };

@@ -26,6 +26,14 @@ inline constexpr std::string_view tira_normal = "Colores básicos";
 inline constexpr std::string_view tira_grises = "Grises";
 inline constexpr std::string_view tira_especial = "Todos los colores";
 
+// The column editor: its menu, what buttons and menu items say, its first check box, its grid read out.
+inline constexpr std::string_view menu_columnas = "&Columnas";
+inline constexpr std::string_view aplicar_cambios = "Aplicar Cambios";
+inline constexpr std::string_view reponer_originales = "Reponer valores originales";
+inline constexpr std::string_view salir = "Salir";
+inline constexpr std::string_view ver_columna0 = "Ver numeración";
+inline constexpr std::string_view rejilla_columnas = "Columnas de la tabla";
+
 /// A table without a title.
 inline constexpr std::string_view tabla = "Tabla";
 

@@ -4,6 +4,7 @@
 
 #include "base/teclas.h"
 #include "core/geometria.h"
+#include "qt/medidas_rejilla.h"
 #include "qt/pintor_rejilla.h"
 #include "qt/teclas_qt.h"
 
@@ -24,7 +25,6 @@ constexpr int TOLERANCIA_BORDE_PX = 4;
 constexpr int MAX_PEDIDOS = 64; // beyond this many pieces one whole repaint is cheaper
 constexpr int MUESCA = 120; // wheel angle of one notch
 constexpr int PASO_HORIZONTAL_PX = 24;
-constexpr int AIRE_FILA_PX = 7; // room of a row beside its font's height
 
 Boton boton_de(Qt::MouseButton b) {
     if (b == Qt::RightButton) return Boton::Derecho;
@@ -78,11 +78,7 @@ bool VistaRejilla::eventFilter(QObject* objeto, QEvent* e) {
 // --- What the grid tells ---
 
 QRect VistaRejilla::rect_celda(int fila, int col) const {
-    const Rectangulo r = rectangulo_celda(tablero(), fila, col);
-    const Unidades u = unidades();
-    const int x = u.px_x(r.izquierda);
-    const int y = u.px_y(r.arriba);
-    return {x, y, u.px_x(r.derecha()) - x, u.px_y(r.abajo()) - y};
+    return en_px(rectangulo_celda(tablero(), fila, col), unidades());
 }
 
 void VistaRejilla::repinta(const QRect& zona) {
@@ -170,18 +166,8 @@ void VistaRejilla::todo_cambiado() {
 }
 
 void VistaRejilla::pon_barras() {
-    const Tablero& t = tablero();
-    const Unidades u = unidades();
     poniendo_barras_ = true;
-    QScrollBar* v = verticalScrollBar();
-    v->setRange(1, std::max(fila_superior_maxima(t), t.TopRow()));
-    v->setPageStep(filas_visibles(t));
-    v->setValue(t.TopRow());
-    QScrollBar* h = horizontalScrollBar();
-    const int sobra = u.px_x(ancho_total(t)) - viewport()->width();
-    h->setRange(0, std::max(0, sobra));
-    h->setPageStep(viewport()->width());
-    h->setValue(u.px_x(t.desplazamiento()));
+    pon_barras_de(*this, tablero(), unidades());
     poniendo_barras_ = false;
 }
 
@@ -224,7 +210,7 @@ void VistaRejilla::resizeEvent(QResizeEvent* /*e*/) {
 
 void VistaRejilla::mide_filas() {
     const Unidades u = unidades();
-    tabla_.mandos().alto_de_filas(u.twips_y(fontMetrics().height() + AIRE_FILA_PX));
+    tabla_.mandos().alto_de_filas(u.twips_y(alto_de_fila(*this)));
 }
 
 void VistaRejilla::changeEvent(QEvent* e) {

@@ -28,9 +28,10 @@ struct Opciones {
     QString captura; ///< --captura: the picture to write; empty: none
     bool oscuro = false; ///< --oscuro: dark palette
     int filas = 0; ///< --filas: 0 when not given
+    QString ajustes; ///< --ajustes: the file of settings; empty: the user's
     std::optional<int> fin;
 
-    /// `max_filas` 0: the program has no --filas.
+    /// `max_filas` 0: the program has neither --filas nor --ajustes.
     explicit Opciones(const QStringList& argumentos, const QString& ayuda, int max_filas = 0) {
         for (int i = 1; i < argumentos.size() && !fin; ++i) {
             const QString& arg = argumentos.at(i);
@@ -43,6 +44,9 @@ struct Opciones {
             } else if (arg == QLatin1String("--captura")) {
                 captura = siguiente();
                 if (captura.isEmpty() || captura.startsWith(QLatin1Char('-'))) falla(textos::FALTA_FICHERO);
+            } else if (arg == QLatin1String("--ajustes") && max_filas > 0) {
+                ajustes = siguiente();
+                if (ajustes.isEmpty() || ajustes.startsWith(QLatin1Char('-'))) falla(textos::FALTA_FICHERO);
             } else if (arg == QLatin1String("--filas") && max_filas > 0) {
                 filas = siguiente().toInt();
                 if (filas < 1 || filas > max_filas) falla(textos::MALAS_FILAS.arg(max_filas));

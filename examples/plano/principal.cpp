@@ -21,6 +21,10 @@ int main(int argc, char** argv) {
         ejemplos::di(stderr, plano::textos::SIN_DATOS);
         return 1;
     }
-    plano::Ventana ventana(muestras, opciones.filas > 0 ? opciones.filas : static_cast<int>(muestras.size()));
+    const int filas = opciones.filas > 0 ? opciones.filas : static_cast<int>(muestras.size());
+    // A picture is of the table as it comes, unless its file of settings is named.
+    const bool con_forma = opciones.captura.isEmpty() || !opciones.ajustes.isEmpty();
+    plano::Ventana ventana(muestras, filas,
+        con_forma ? plano::Ventana::Recuerdo::Forma : plano::Ventana::Recuerdo::Nada, opciones.ajustes);
     return ejemplos::corre(ventana, opciones);
 }

@@ -24,6 +24,10 @@ inline constexpr char PREFIJO_NOMBRE[] = "P";
 inline constexpr const char* NOMBRES_COLOR[] = {
     "por capa", "rojo", "amarillo", "verde", "ciano", "azul", "magenta", "blanco"};
 
+// Under what the layout of the table is kept in the settings.
+inline constexpr char APLICACION_AJUSTES[] = "Plano";
+inline constexpr char SECCION_AJUSTES[] = "Puntos";
+
 // The window.
 inline const QString TITULO = QStringLiteral("Plano - Tabla");
 inline const QString PROGRAMA = QStringLiteral("Tabla");
@@ -36,6 +40,7 @@ inline const QString ACERCAR = QStringLiteral("A&cercar");
 inline const QString ALEJAR = QStringLiteral("A&lejar");
 inline const QString VER_NOMBRES = QStringLiteral("&Nombres");
 inline const QString VER_CUADRICULA = QStringLiteral("C&uadrícula");
+inline const QString COLUMNAS = QStringLiteral("Columnas de la ta&bla...");
 inline const QString MENU_AYUDA = QStringLiteral("A&yuda");
 inline const QString RATON = QStringLiteral("&Ratón y teclas del plano");
 inline const QString DATOS = QStringLiteral("&Origen de los datos");
@@ -56,6 +61,9 @@ inline const QString SOBRE_DATOS = QStringLiteral(
     "de la red nacional neerlandesa (RD), en metros; cota sobre el lecho del río, en metros; zinc del "
     "suelo, en ppm.\n\nM.G.J. Rikken y R.P.G. Van Rijn, «Soil pollution with heavy metals», "
     "Universidad de Utrecht, 1993.");
+
+inline const QString AJUSTES_SIN_ESCRIBIR =
+    QStringLiteral("No se ha podido guardar la forma de la tabla.\n\n%1");
 
 // The status bar.
 inline const QString UN_PUNTO = QStringLiteral("1 punto");
@@ -89,6 +97,7 @@ inline const QString AYUDA =
     QStringLiteral("plano: una tabla de puntos medidos junto a su plano.\n"
                    "  --captura FICHERO.png  dibuja la ventana en el fichero y termina\n"
                    "  --filas N              repite los puntos hasta N filas\n"
+                   "  --ajustes FICHERO.ini  guarda y lee ahí la forma de la tabla\n"
                    "  --oscuro               colores oscuros\n"
                    "  --ayuda                esta ayuda");
 inline const QString SIN_DATOS = QStringLiteral("No se pueden leer los datos de los puntos (meuse.csv).");

@@ -7,6 +7,7 @@
 #include "textos.h"
 
 #include <QAction>
+#include <QCloseEvent>
 #include <QFontMetrics>
 #include <QLabel>
 #include <QMenuBar>
@@ -39,10 +40,17 @@ std::pair<int, int> tramo_seguido(const std::vector<int>& filas) {
 
 } // namespace
 
-Ventana::Ventana(const std::vector<Muestra>& muestras, int filas)
-    : widget_(new TablaWidget), tabla_(widget_->tabla()), plano_(new VistaPlano(tabla_.tablero())) {
+Ventana::Ventana(const std::vector<Muestra>& muestras, int filas, Recuerdo recuerdo, const QString& ajustes)
+    : widget_(new TablaWidget),
+      tabla_(widget_->tabla()),
+      plano_(new VistaPlano(tabla_.tablero())),
+      recuerdo_(recuerdo) {
     setWindowTitle(textos::TITULO);
+    widget_->pon_fichero_ajustes(ajustes);
     prepara_tabla(tabla_, muestras);
+    // Before the points: applying the formats would give every list cell the first value of its list.
+    if (recuerdo_ == Recuerdo::Forma)
+        tabla_.Tablero_Lee_Formato_Win(textos::APLICACION_AJUSTES, textos::SECCION_AJUSTES);
     carga_puntos(tabla_, muestras, filas);
 
     auto* division = new QSplitter(this);
@@ -86,6 +94,9 @@ void Ventana::pon_menus() {
     ver->addSeparator();
     marcada(ver, textos::VER_NOMBRES, [this](bool si) { plano_->con_nombres(si); });
     marcada(ver, textos::VER_CUADRICULA, [this](bool si) { plano_->con_cuadricula(si); });
+    ver->addSeparator();
+    accion(ver, textos::COLUMNAS, {},
+        [this] { tabla_.mandos().orden(Qlt4_Tabla::Opcion::MN_editor_de_columnas); });
 
     QMenu* ayuda = menuBar()->addMenu(textos::MENU_AYUDA);
     const auto explica = [this](const QString& texto) {
@@ -202,6 +213,25 @@ QString Ventana::resumen_seleccion() {
     if (n > 1) return textos::SELECCION_VARIOS.arg(n).arg(cota_media, zinc_medio);
     return textos::SELECCION_UNO.arg(
         QString::fromStdString(tabla_.TextMatrix(desde, NOMBRE)), cota_media, zinc_medio);
+}
+
+void Ventana::closeEvent(QCloseEvent* e) {
+    if (recuerdo_ == Recuerdo::Forma) guarda_forma();
+    QMainWindow::closeEvent(e);
+}
+
+// The widths that the user dragged go into the formats first.
+void Ventana::guarda_forma() {
+    tabla_.Editor_Tabl_graba();
+    try {
+        tabla_.Tablero_Graba_Formato_Win(textos::APLICACION_AJUSTES, textos::SECCION_AJUSTES);
+    } catch (const Qlt4_Tabla::Error& error) {
+        QMessageBox caja(QMessageBox::Warning, textos::TITULO,
+            textos::AJUSTES_SIN_ESCRIBIR.arg(QString::fromStdString(error.descripcion())),
+            QMessageBox::NoButton, this);
+        caja.addButton(textos::ACEPTAR, QMessageBox::AcceptRole);
+        caja.exec();
+    }
 }
 
 } // namespace plano

@@ -19,7 +19,15 @@ class Ventana final : public QMainWindow {
     Q_OBJECT
 
 public:
-    Ventana(const std::vector<Muestra>& muestras, int filas);
+    /// What the window keeps between two runs.
+    enum class Recuerdo { Nada, Forma };
+
+    /// `ajustes`: the file of settings that keeps the layout of the table; empty: the user's. A window that is
+    /// only drawn into a picture keeps nothing and looks the same for everyone.
+    Ventana(const std::vector<Muestra>& muestras, int filas, Recuerdo recuerdo, const QString& ajustes);
+
+protected:
+    void closeEvent(QCloseEvent* e) override;
 
 private:
     void pon_menus();
@@ -30,10 +38,12 @@ private:
     void elige_recuadro(const std::vector<int>& filas);
     void refresca_estado();
     [[nodiscard]] QString resumen_seleccion();
+    void guarda_forma();
 
     Qlt4_Tabla::TablaWidget* widget_;
     Qlt4_Tabla::Tabla0& tabla_;
     VistaPlano* plano_;
+    Recuerdo recuerdo_;
     QLabel* cuenta_ = nullptr;
     QLabel* seleccion_ = nullptr;
     QLabel* coordenadas_ = nullptr;

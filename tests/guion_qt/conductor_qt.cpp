@@ -103,7 +103,8 @@ Plataforma ConductorQt::sustituye(const Plataforma& suya) {
     mensajes_.conecta(suya.mensajes);
     portapapeles_.conecta(suya.portapapeles);
     return {suya.vista, suya.marco, suya.casilla, suya.lista, mensajes_, suya.separador, p_.pasos, p_.ajustes,
-        p_.ficheros, p_.dialogo_fichero, portapapeles_, p_.hoja_calculo, p_.dialogo_color};
+        p_.ficheros, p_.dialogo_fichero, portapapeles_, p_.hoja_calculo, p_.dialogo_color,
+        p_.dialogo_columnas};
 }
 
 // The signals as the lines that the events have in the record.

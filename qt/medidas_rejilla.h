@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+// Measures that every window of a grid shares: the height of its rows, places of cells in pixels, the ranges
+// of its scroll bars. Main names: alto_de_fila, en_px, pon_barras_de.
+#pragma once
+
+#include "core/geometria.h"
+#include "qt/unidades.h"
+
+#include <QAbstractScrollArea>
+#include <QFontMetrics>
+#include <QRect>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace Qlt4_Tabla {
+
+/// Height of a row in pixels: its font's and some air.
+[[nodiscard]] inline int alto_de_fila(const QWidget& w) {
+    constexpr int AIRE_PX = 7;
+    return w.fontMetrics().height() + AIRE_PX;
+}
+
+/// Twips of the grid as pixels of its viewport; neighbours share their edges.
+[[nodiscard]] inline QRect en_px(const Rectangulo& r, const Unidades& u) {
+    const int x = u.px_x(r.izquierda);
+    const int y = u.px_y(r.arriba);
+    return {x, y, u.px_x(r.derecha()) - x, u.px_y(r.abajo()) - y};
+}
+
+/// Rows go by one, columns by pixels.
+inline void pon_barras_de(QAbstractScrollArea& area, const Tablero& t, const Unidades& u) {
+    QScrollBar* v = area.verticalScrollBar();
+    v->setRange(1, std::max(fila_superior_maxima(t), t.TopRow()));
+    v->setPageStep(filas_visibles(t));
+    v->setValue(t.TopRow());
+    QScrollBar* h = area.horizontalScrollBar();
+    const int sobra = u.px_x(ancho_total(t)) - area.viewport()->width();
+    h->setRange(0, std::max(0, sobra));
+    h->setPageStep(area.viewport()->width());
+    h->setValue(u.px_x(t.desplazamiento()));
+}
+
+} // namespace Qlt4_Tabla

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+// Places of dialogs: remembered ones that are no longer on a screen come back to it.
+#pragma once
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace Qlt4_Tabla {
+
+/// The place nearest to `p` where the whole window, frame included, is on a screen; where it is too large for
+/// that, its top left corner is.
+[[nodiscard]] inline QPoint dentro_de_pantalla(const QWidget& ventana, QPoint p) {
+    constexpr QSize MARCO(16, 40); // room for the window's frame, before it is known
+    const QScreen* pantalla = QGuiApplication::screenAt(p);
+    if (pantalla == nullptr) pantalla = ventana.screen();
+    const QRect libre = pantalla->availableGeometry();
+    const QSize talla = ventana.isVisible() ? ventana.frameGeometry().size() : ventana.size() + MARCO;
+    const auto sujeta = [](int x, int primero, int ultimo) {
+        return std::clamp(x, primero, std::max(primero, ultimo));
+    };
+    return {sujeta(p.x(), libre.left(), libre.right() - talla.width() + 1),
+        sujeta(p.y(), libre.top(), libre.bottom() - talla.height() + 1)};
+}
+
+} // namespace Qlt4_Tabla
