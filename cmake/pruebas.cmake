@@ -30,7 +30,7 @@ if(fuentes)
   target_link_libraries(tabla_guion PUBLIC tabla_control tabla_headless)
 endif()
 
-foreach(carpeta base platform core colours editing clipboard files column_editor control headless escenarios)
+foreach(carpeta base platform core colours editing clipboard files column_editor control headless spreadsheet escenarios)
   file(GLOB fuentes CONFIGURE_DEPENDS ${TABLA_TESTS}/${carpeta}/*.cpp)
   if(NOT fuentes)
     continue()
@@ -44,6 +44,17 @@ foreach(carpeta base platform core colours editing clipboard files column_editor
   gtest_discover_tests(prueba_${carpeta} TEST_PREFIX ${carpeta}. DISCOVERY_MODE PRE_TEST
     DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120 ENVIRONMENT "LC_ALL=C.UTF-8")
 endforeach()
+
+# The export against a real office, one after the other: each starts an office of its own.
+if(TARGET tabla_hoja_libreoffice)
+  file(GLOB fuentes CONFIGURE_DEPENDS ${TABLA_TESTS}/spreadsheet/oficina/*.cpp)
+  add_executable(prueba_oficina ${fuentes})
+  tabla_prueba(prueba_oficina tabla_spreadsheet tabla_uno GTest::gtest)
+  target_compile_definitions(prueba_oficina PRIVATE "TABLA_AUXILIAR=\"$<TARGET_FILE:tabla_hoja_libreoffice>\"")
+  add_dependencies(prueba_oficina tabla_hoja_libreoffice tabla_tipos_uno)
+  gtest_discover_tests(prueba_oficina TEST_PREFIX spreadsheet.oficina. DISCOVERY_MODE PRE_TEST
+    DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120 RESOURCE_LOCK oficina ENVIRONMENT "LC_ALL=C.UTF-8")
+endif()
 
 if(TARGET tabla_qt)
   # The hands of the scenario scripts on the widget.
