@@ -43,7 +43,7 @@ PuertosQt::~PuertosQt() {
 
 Plataforma PuertosQt::plataforma() {
     return {*this, *this, *this, lista_, *this, *this, pasos_, ajustes_, ficheros_, dialogo_, portapapeles_,
-        hoja_, dialogo_color_, dialogo_columnas_};
+        *hoja_, dialogo_color_, dialogo_columnas_};
 }
 
 void PuertosQt::conecta(VistaRejilla& vista, Casilla& casilla, ListaCelda& lista) {

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "headless/ficheros_disco.h"
+#include "platform/hoja_del_equipo.h"
 #include "platform/plataforma.h"
 #include "qt/ajustes_qt.h"
 #include "qt/dialogo_color.h"
@@ -15,6 +16,7 @@
 #include <QLocale>
 #include <QPointer>
 
+#include <memory>
 #include <optional>
 
 namespace Qlt4_Tabla {
@@ -106,7 +108,7 @@ private:
     FicherosDisco ficheros_;
     DialogoFicheroQt dialogo_;
     PortapapelesQt portapapeles_;
-    HojaCalculoNula hoja_;
+    std::unique_ptr<HojaCalculo> hoja_ = hoja_del_equipo(*this);
     DialogoColorQt dialogo_color_;
     DialogoColumnasQt dialogo_columnas_;
     std::optional<bool> coma_;

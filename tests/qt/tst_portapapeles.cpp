@@ -124,6 +124,8 @@ private slots:
         MesaQt mesa(5);
         mesa.pulsa(Qt::Key_C, Qt::ControlModifier);
         QCOMPARE(QApplication::overrideCursor(), nullptr);
+        qunsetenv("DISPLAY"); // else an office that is installed would come up
+        qunsetenv("WAYLAND_DISPLAY");
         mesa.tabla().Copiar_todo_Excel();
         QCOMPARE(QApplication::overrideCursor(), nullptr);
         QCOMPARE(mesa.mensajes.size(), 1);
