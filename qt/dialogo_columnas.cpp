@@ -160,10 +160,8 @@ void VentanaColumnas::abrevia_etiqueta(int ancho) {
 void VentanaColumnas::coloca() {
     const Unidades u(*this);
     const VistoColumnas& v = modelo_.visto();
-    const QSize minimo(u.px_x(v.ancho_minimo), u.px_y(v.alto_minimo));
-    const QSize pantalla = screen()->availableSize();
-    setMinimumSize(minimo.boundedTo(pantalla));
-    resize(QSize(u.px_x(a_twips_enteros(v.ancho)), u.px_y(a_twips_enteros(v.alto))).boundedTo(pantalla));
+    setMinimumSize(cabe_en_pantalla(*this, {u.px_x(v.ancho_minimo), u.px_y(v.alto_minimo)}));
+    resize(cabe_en_pantalla(*this, {u.px_x(a_twips_enteros(v.ancho)), u.px_y(a_twips_enteros(v.alto))}));
     const QPoint medio = parentWidget()->window()->frameGeometry().center() - rect().center();
     const QPoint p(v.izquierda ? u.px_x(a_twips_enteros(*v.izquierda)) : medio.x(),
         v.arriba ? u.px_y(a_twips_enteros(*v.arriba)) : medio.y());

@@ -10,14 +10,21 @@
 
 namespace Qlt4_Tabla {
 
+/// Room for a window's frame, before it is known.
+inline constexpr QSize MARCO_VENTANA(16, 40);
+
+/// The size, at most as large as fits on the window's screen.
+[[nodiscard]] inline QSize cabe_en_pantalla(const QWidget& ventana, QSize talla) {
+    return talla.boundedTo(ventana.screen()->availableSize() - MARCO_VENTANA);
+}
+
 /// The place nearest to `p` where the whole window, frame included, is on a screen; where it is too large for
 /// that, its top left corner is.
 [[nodiscard]] inline QPoint dentro_de_pantalla(const QWidget& ventana, QPoint p) {
-    constexpr QSize MARCO(16, 40); // room for the window's frame, before it is known
     const QScreen* pantalla = QGuiApplication::screenAt(p);
     if (pantalla == nullptr) pantalla = ventana.screen();
     const QRect libre = pantalla->availableGeometry();
-    const QSize talla = ventana.isVisible() ? ventana.frameGeometry().size() : ventana.size() + MARCO;
+    const QSize talla = ventana.isVisible() ? ventana.frameGeometry().size() : ventana.size() + MARCO_VENTANA;
     const auto sujeta = [](int x, int primero, int ultimo) {
         return std::clamp(x, primero, std::max(primero, ultimo));
     };

@@ -43,6 +43,8 @@ class VistaColumnas final : public QAbstractScrollArea {
 public:
     VistaColumnas(RejillaColumnas& modelo, QWidget* padre);
 
+    [[nodiscard]] const RejillaColumnas& modelo() const { return modelo_; }
+
     [[nodiscard]] Unidades unidades() const { return Unidades(*viewport()); }
 
     /// The place of a cell in viewport pixels, whether seen or not.

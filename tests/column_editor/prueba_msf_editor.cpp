@@ -461,7 +461,8 @@ TEST_F(Msf_editor, los_numeros_se_redondean_al_par) {
 TEST(Filtra_digito, cifras_y_retroceso) {
     for (int c = '0'; c <= '9'; ++c) EXPECT_EQ(filtra_digito(c), c);
     EXPECT_EQ(filtra_digito(8), 8);
-    for (const int c : std::vector<int>{0, 9, 13, '/', ':', '+', '-', '.', 'a', 178, 0x0661}) EXPECT_EQ(filtra_digito(c), 0);
+    for (const int c : std::vector<int>{0, 9, 13, '/', ':', '+', '-', '.', 'a', 178, 0x0661})
+        EXPECT_EQ(filtra_digito(c), 0);
 }
 
 TEST(Registros_editor, hay_visible_busca_de_1_a_n) {
