@@ -434,43 +434,50 @@ void CeldasAccesibles::filas_borradas(int fila, int n) {
 
 void CeldasAccesibles::contenido_cambiado() {
     recoloca([](int f) { return std::optional(f); });
-    if (!QAccessible::isActive()) return;
+    if (!alguien_oye()) return;
     QAccessibleTableModelChangeEvent e(&vista_, QAccessibleTableModelChangeEvent::ModelReset);
-    QAccessible::updateAccessibility(&e);
+    avisa(e);
+}
+
+void CeldasAccesibles::avisa(QAccessibleEvent& e) {
+    if (oyente_)
+        oyente_(e);
+    else
+        QAccessible::updateAccessibility(&e);
 }
 
 void CeldasAccesibles::avisa_filas(int tipo, int fila, int n) {
-    if (!QAccessible::isActive()) return;
+    if (!alguien_oye()) return;
     QAccessibleTableModelChangeEvent e(
         &vista_, static_cast<QAccessibleTableModelChangeEvent::ModelChangeType>(tipo));
     e.setFirstRow(fila);
     e.setLastRow(fila + n - 1);
-    QAccessible::updateAccessibility(&e);
+    avisa(e);
 }
 
 void CeldasAccesibles::cursor_movido() {
     olvida_lejanas();
-    if (!QAccessible::isActive()) return;
+    if (!alguien_oye()) return;
     QAccessibleEvent e(&vista_, QAccessible::SelectionWithin);
-    QAccessible::updateAccessibility(&e);
+    avisa(e);
     avisa_foco();
 }
 
 // A cursor that the host moves while the user types elsewhere takes no reader away from there.
 void CeldasAccesibles::avisa_foco() {
     const Tablero& t = vista_.tablero();
-    if (!QAccessible::isActive() || !vista_.hasFocus() || !existe(t, t.Row(), t.Col())) return;
+    if (!alguien_oye() || !vista_.hasFocus() || !existe(t, t.Row(), t.Col())) return;
     QAccessibleEvent e(&vista_, QAccessible::Focus);
     e.setChild(t.Row() * t.Cols() + t.Col());
-    QAccessible::updateAccessibility(&e);
+    avisa(e);
 }
 
 void CeldasAccesibles::celda_actual_cambiada() {
     const Tablero& t = vista_.tablero();
-    if (!QAccessible::isActive() || !existe(t, t.Row(), t.Col())) return;
+    if (!alguien_oye() || !existe(t, t.Row(), t.Col())) return;
     QAccessibleEvent e(&vista_, QAccessible::NameChanged);
     e.setChild(t.Row() * t.Cols() + t.Col());
-    QAccessible::updateAccessibility(&e);
+    avisa(e);
 }
 
 void CeldasAccesibles::olvida_lejanas() {
@@ -485,7 +492,7 @@ void CeldasAccesibles::olvida_lejanas() {
 
 // The toolkit tells of the grid's focus after this event; the cell's comes behind it.
 bool CeldasAccesibles::eventFilter(QObject* objeto, QEvent* e) {
-    if (e->type() == QEvent::FocusIn && QAccessible::isActive())
+    if (e->type() == QEvent::FocusIn && alguien_oye())
         QMetaObject::invokeMethod(this, &CeldasAccesibles::avisa_foco, Qt::QueuedConnection);
     return QObject::eventFilter(objeto, e);
 }

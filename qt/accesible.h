@@ -12,7 +12,9 @@
 #include <QString>
 
 #include <cstdint>
+#include <functional>
 #include <unordered_map>
+#include <utility>
 
 class QWidget;
 
@@ -44,6 +46,10 @@ public:
 
     [[nodiscard]] std::size_t hechas() const { return ids_.size(); }
 
+    /// Gives the notices of the grid to `oye` in the place of the toolkit, which drops them all where no
+    /// assistive program runs. Empty: to the toolkit again.
+    void pon_oyente(std::function<void(QAccessibleEvent&)> oye) { oyente_ = std::move(oye); }
+
     // What the grid tells.
     void filas_insertadas(int fila, int n);
     void filas_borradas(int fila, int n);
@@ -60,11 +66,15 @@ private:
     template <class Lugar>
     void recoloca(Lugar lugar);
     void olvida_lejanas();
+    [[nodiscard]] bool alguien_oye() const { return oyente_ || QAccessible::isActive(); }
+
+    void avisa(QAccessibleEvent& e);
     void avisa_foco();
     void avisa_filas(int tipo, int fila, int n);
 
     VistaRejilla& vista_;
     std::unordered_map<Clave, QAccessible::Id> ids_;
+    std::function<void(QAccessibleEvent&)> oyente_;
 };
 
 } // namespace Qlt4_Tabla

@@ -51,7 +51,9 @@ QRect PintorRejilla::rect(int fila, int col) const {
     return {x, y, u_.px_x(r.derecha()) - x, u_.px_y(r.abajo()) - y};
 }
 
+// The painter may come with the clip of another dirty rectangle.
 void PintorRejilla::pinta(const QRect& sucio) {
+    p_.setClipRect(sucio);
     if (t_.Rows() == 0 || t_.Cols() == 0) {
         pinta_fuera(sucio);
         return;

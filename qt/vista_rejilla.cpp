@@ -62,7 +62,7 @@ void VistaRejilla::editor_oculto() {
         confirma_editor();
     else
         tabla_.mandos().editor().descarta();
-    if (!hasFocus()) viewport()->update(); // with the editor it lost the look of having the focus
+    if (!hasFocus()) repinta_realce(); // with the editor it lost the look of having the focus
 }
 
 void VistaRejilla::confirma_editor() {
@@ -95,6 +95,14 @@ void VistaRejilla::repinta_filas(int fila1, int fila2) {
     const int y1 = rect_celda(desde, 0).top();
     const int y2 = rect_celda(hasta, 0).bottom();
     repinta(QRect(0, y1, viewport()->width(), y2 - y1 + 1));
+}
+
+// What looks another with the focus: the selection, the frame of the current cell, and their headers.
+void VistaRejilla::repinta_realce() {
+    const Bloque s = tablero().seleccion();
+    const int fila = tablero().Row();
+    repinta_filas(0, 0);
+    repinta_filas(std::min(s.fila1, fila), std::max(s.fila2, fila));
 }
 
 void VistaRejilla::celdas_cambiadas(int fila1, int col1, int fila2, int col2) {
@@ -226,12 +234,12 @@ void VistaRejilla::showEvent(QShowEvent* e) {
 
 void VistaRejilla::focusInEvent(QFocusEvent* e) {
     QAbstractScrollArea::focusInEvent(e);
-    viewport()->update();
+    repinta_realce();
 }
 
 void VistaRejilla::focusOutEvent(QFocusEvent* e) {
     QAbstractScrollArea::focusOutEvent(e);
-    viewport()->update();
+    repinta_realce();
 }
 
 void VistaRejilla::keyPressEvent(QKeyEvent* e) {

@@ -86,6 +86,7 @@ private:
     void pon_barras();
     void repinta(const QRect& zona);
     void repinta_filas(int fila1, int fila2);
+    void repinta_realce();
     [[nodiscard]] bool columna_numerica() const;
     void confirma_editor();
 

@@ -25,10 +25,10 @@ inline QImage pintado(const QWidget& w) {
 /// Carets must stand still: QApplication::setCursorFlashTime(0).
 inline std::optional<QPoint> lugar_sin_pintar(QWidget& w) {
     QCoreApplication::processEvents();
-    QImage hay = pintado(w).copy(QRect(w.mapTo(w.window(), QPoint(0, 0)), w.size()));
-    w.update();
-    QCoreApplication::processEvents();
-    const QImage debe = pintado(w).copy(QRect(w.mapTo(w.window(), QPoint(0, 0)), w.size()));
+    const QImage hay = pintado(w).copy(QRect(w.mapTo(w.window(), QPoint(0, 0)), w.size()));
+    QImage debe(w.size(), QImage::Format_RGB32);
+    debe.fill(Qt::magenta); // what a painter leaves out shows
+    w.render(&debe);
     if (hay.isNull() || hay.size() != debe.size()) return QPoint(-1, -1);
     for (int y = 0; y < hay.height(); ++y)
         for (int x = 0; x < hay.width(); ++x)

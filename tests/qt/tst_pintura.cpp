@@ -119,12 +119,14 @@ private slots:
     void la_alineacion_mueve_el_texto();
     void un_texto_largo_no_sale_de_su_celda();
     void una_columna_sin_ancho_no_se_pinta();
+    void una_fila_sin_alto_no_se_pinta();
     void la_imagen_se_ajusta_a_la_celda();
     void imagen_y_texto_caben_juntos();
     void mas_alla_de_las_celdas_no_hay_celdas();
     void el_desplazamiento_pasa_por_debajo_de_las_fijas();
     void una_zona_sucia_se_pinta_igual_que_el_todo_data();
     void una_zona_sucia_se_pinta_igual_que_el_todo();
+    void varias_zonas_con_un_pintor_dan_el_todo();
     void el_contraste_es_blanco_o_negro_data();
     void el_contraste_es_blanco_o_negro();
 };
@@ -381,6 +383,15 @@ void TstPintura::una_columna_sin_ancho_no_se_pinta() {
     QCOMPARE(l.pinta(), vacia.pinta());
 }
 
+void TstPintura::una_fila_sin_alto_no_se_pinta() {
+    Lienzo l;
+    l.t.TextMatrix(2, 2, BLOQUE);
+    l.t.RowHeight(2, 0);
+    Lienzo vacia;
+    vacia.t.RowHeight(2, 0);
+    QCOMPARE(l.pinta(), vacia.pinta());
+}
+
 void TstPintura::la_imagen_se_ajusta_a_la_celda() {
     Lienzo l;
     QImage cuadro(100, 100, QImage::Format_RGB32);
@@ -462,6 +473,22 @@ void TstPintura::una_zona_sucia_se_pinta_igual_que_el_todo() {
         p.end();
         QVERIFY2(foto == todo, qPrintable(QStringLiteral("%1 %2").arg(zona.x()).arg(zona.y())));
     }
+}
+
+// As a window does where an editor lies over the grid: the paint event has several rectangles.
+void TstPintura::varias_zonas_con_un_pintor_dan_el_todo() {
+    Lienzo l;
+    l.t.Rows(3); // so that there is room beyond the cells
+    l.t.selecciona(1, 1, 2, 2);
+    const QImage todo = l.pinta();
+    QImage foto(todo.size(), QImage::Format_RGB32);
+    foto.fill(Qt::magenta);
+    QPainter p(&foto);
+    for (const QRect& zona : {QRect(0, 0, ANCHO, 30), QRect(0, 30, 70, 41), QRect(70, 30, ANCHO - 70, 41),
+             QRect(0, 71, ANCHO, ALTO - 71)})
+        PintorRejilla(l.t, l.u, p, {l.paleta, true}, QSize(ANCHO, ALTO)).pinta(zona);
+    p.end();
+    QCOMPARE(foto, todo);
 }
 
 void TstPintura::el_contraste_es_blanco_o_negro_data() {
