@@ -30,6 +30,7 @@ inline constexpr int V = 86;
 inline constexpr int X = 88;
 inline constexpr int Y = 89;
 inline constexpr int Z = 90;
+inline constexpr int MENU = 93;
 inline constexpr int F1 = 112;
 inline constexpr int F2 = 113;
 inline constexpr int F3 = 114;

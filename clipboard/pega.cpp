@@ -161,6 +161,13 @@ void Pegar_Portapapeles(EstadoTabla& e, bool /*CambiarComa*/) {
     refresca(e);
 }
 
+void habilita_pegar(EstadoTabla& e) {
+    const bool hay = !lee_portapapeles(e).empty();
+    for (const Opcion opcion : {Opcion::mn_Pegar, Opcion::mn_pegar_cXp, Opcion::mn_pegar_al_final})
+        e.menus[opcion].activa = hay;
+    e.plataforma.marco.menus_cambiados();
+}
+
 void mn_pegar_al_final(EstadoTabla& e, const std::function<void()>& anade_filas) {
     anade_filas();
     e.tablero.Col(0);

@@ -30,6 +30,9 @@ struct MedidasBloque {
 /// `CambiarComa` is kept for the two commands that differ in it; both do the same. Errors are ignored.
 void Pegar_Portapapeles(EstadoTabla& e, bool CambiarComa);
 
+/// The paste items of the menu are enabled while the clipboard holds a text; one that cannot be read holds none.
+void habilita_pegar(EstadoTabla& e);
+
 /// Adds rows, goes to column 0 of the last one and pastes there, so that a block's first field is its row
 /// number. The added row stays when nothing is pasted.
 void mn_pegar_al_final(EstadoTabla& e, const std::function<void()>& anade_filas);

@@ -41,6 +41,8 @@ std::int32_t color_de_celda(const EstadoTabla& e, int fila, int col) {
 
 Bloque abre_menu_color(EstadoTabla& e) {
     e.menu_cambio.prepara(textos::menu_colores);
+    for (std::size_t i = 0; i < OTRO; ++i)
+        e.menu_cambio.colorea(i, paleta_a_pantalla(static_cast<std::int16_t>(i + 1)));
     const Tablero& t = e.tablero;
     return {std::min(t.Row(), t.RowSel()), t.Col(), std::max(t.Row(), t.RowSel()), t.Col()};
 }

@@ -8,6 +8,8 @@
 #include "control/ficheros.h"
 #include "control/guarda.h"
 #include "control/portapapeles.h"
+#include "control/textos.h"
+#include "editing/arbol_menus.h"
 #include "editing/filas.h"
 
 #include <algorithm>
@@ -72,37 +74,32 @@ constexpr std::array<Orden, 24> ORDENES{{
     {Opcion::mn_Especial_puntos_columnas, "mn_Especial_puntos_columnas", edita_columnas},
     {Opcion::mn_salir, "mn_salir", [](EstadoTabla& e) { e.eventos.Salir(); }},
     {Opcion::mn_Especial_puntos_Copia, "mn_Especial_puntos_Copia", copia},
-    {Opcion::mn_copiar1, "mn_copiar1", copia},
-    {Opcion::mn_Pegar2, "mn_Pegar2", pega},
+    {Opcion::mn_copiar1, textos::lugar_menu_copia, copia},
+    {Opcion::mn_Pegar2, textos::lugar_menu_copia, pega},
 }};
 
-struct Atajo {
-    int KeyCode; // with Ctrl alone
-    Opcion opcion;
-};
-
-constexpr std::array<Atajo, 4> ATAJOS{{
-    {teclas::Z, Opcion::mn_Deshacer},
-    {teclas::X, Opcion::mn_cortar},
-    {teclas::C, Opcion::mn_copiar},
-    {teclas::V, Opcion::mn_Pegar},
-}};
-
-struct BotonBarra {
+struct OrdenBoton {
     std::string_view clave;
-    void (*ejecuta)(EstadoTabla&);
+    void (*ejecuta)(EstadoTabla&, MenusTabla&);
 };
 
-constexpr std::array<BotonBarra, 3> BOTONES{{
-    {"Copiar", copia_tabla},
-    {"Pegar", pega},
-    {"Excel", copia_en_hoja},
+constexpr std::array<OrdenBoton, 5> BOTONES{{
+    {"Copiar", [](EstadoTabla& e, MenusTabla&) { copia_tabla(e); }},
+    {"Pegar", [](EstadoTabla& e, MenusTabla&) { pega(e); }},
+    {"Excel", [](EstadoTabla& e, MenusTabla&) { copia_en_hoja(e); }},
+    {"Propiedades", [](EstadoTabla&, MenusTabla& menus) { menus.abre_opciones(); }},
+    {"Avance", [](EstadoTabla& e, MenusTabla&) { alterna_avance(e); }},
 }};
+
+bool abre_menu(int KeyCode, Modificadores mods) {
+    return (KeyCode == teclas::MENU && mods.vacio()) ||
+        (KeyCode == teclas::F10 && mods == teclas::MAYUSCULAS);
+}
 
 } // namespace
 
 Mandos::Mandos(EstadoTabla& e, EditorCelda& editor, Navegacion& navegacion)
-    : e_(e), editor_(editor), navegacion_(navegacion) {}
+    : e_(e), editor_(editor), navegacion_(navegacion), menus_(e) {}
 
 void Mandos::protege(std::string_view lugar, const std::function<void()>& orden) {
     guarda(e_.plataforma.mensajes, prefijo_miembro(lugar), {}, orden);
@@ -116,11 +113,15 @@ void Mandos::cambia_vista(const std::function<void()>& orden) {
 }
 
 bool Mandos::tecla_abajo(int KeyCode, Modificadores mods) {
-    for (const Atajo& atajo : ATAJOS)
-        if (atajo.KeyCode == KeyCode && mods == teclas::CONTROL) return orden(atajo.opcion);
+    if (mods == teclas::CONTROL)
+        if (const auto opcion = opcion_de_atajo(KeyCode)) return orden(*opcion);
     bool usada = true;
     protege(TABLERO, [&] {
-        if (KeyCode == teclas::F2)
+        if (abre_menu(KeyCode, mods))
+            menus_.abre_raton(DondeMenu::CeldaActual);
+        else if (KeyCode == teclas::F10 && mods == teclas::ALT)
+            e_.plataforma.marco.enfoca_barra();
+        else if (KeyCode == teclas::F2)
             editor_.abre_por_F2();
         else if (KeyCode == teclas::SUPR && !e_.ratonOff)
             mn_borrar_seleccion(e_);
@@ -172,11 +173,14 @@ void Mandos::raton_mueve(int x, int y) {
 }
 
 void Mandos::raton_arriba(int x, int y, Boton boton) {
+    if (boton == Boton::Derecho && !e_.ratonOff)
+        protege(TABLERO, [&] { menus_.abre_raton(DondeMenu::Raton); });
     if (boton != Boton::Izquierdo || !arrastrando_) return;
     arrastrando_ = false;
     protege(TABLERO, [&] {
         const Celda suelta = celda_en(e_.tablero, x, y);
         if (suelta == pulsada_) navegacion_.clic(suelta);
+        menus_.abre_de_columna();
     });
 }
 
@@ -238,18 +242,27 @@ bool Mandos::orden(Opcion opcion) {
 }
 
 bool Mandos::boton(std::string_view clave) {
-    for (const BotonBarra& b : BOTONES) {
-        if (b.clave != clave) continue;
-        protege(clave, [&] {
-            editor_.confirma_y_cierra();
-            termina_mensaje(e_);
-            b.ejecuta(e_);
-            e_.plataforma.marco.enfoca_tablero();
-        });
-        return true;
-    }
-    return false;
+    const auto* const b = std::find_if(
+        BOTONES.begin(), BOTONES.end(), [&](const OrdenBoton& uno) { return uno.clave == clave; });
+    if (b == BOTONES.end()) return false;
+    protege(clave, [&] {
+        editor_.confirma_y_cierra();
+        termina_mensaje(e_);
+        b->ejecuta(e_, menus_);
+    });
+    protege(clave, [&] { e_.plataforma.marco.enfoca_tablero(); });
+    return true;
 }
+
+void Mandos::elige_cambio(std::size_t elemento) {
+    protege(TABLERO, [&] { menus_.elige_cambio(elemento); });
+}
+
+std::span<const ElementoMenu> Mandos::menu(Menu cual) { return arbol(cual); }
+
+std::span<const BotonBarra> Mandos::barra() { return Qlt4_Tabla::barra(); }
+
+bool Mandos::visible(const BotonBarra& boton) const { return boton_visible(e_, boton); }
 
 void Mandos::vista_redimensionada(int ancho, int alto) {
     cambia_vista([&] { e_.tablero.pon_vista(ancho, alto); });

@@ -6,12 +6,16 @@
 #pragma once
 
 #include "base/teclas.h"
+#include "control/menus.h"
+#include "core/elementos_menu.h"
 #include "core/estado_tabla.h"
 #include "core/geometria.h"
 #include "editing/editor_celda.h"
 #include "editing/navegacion.h"
 
+#include <cstddef>
 #include <functional>
+#include <span>
 #include <string_view>
 
 namespace Qlt4_Tabla {
@@ -24,13 +28,15 @@ public:
 
     // Keys on the closed grid. A key first comes as key down; when that returns false and it has a character,
     // the character comes as key press (see base/pagina1252.h for its code). Ctrl combinations and Tab never
-    // come as key presses, nor does the Delete key. Ctrl with Z, X, C or V runs undo, cut, copy or paste.
+    // come as key presses, nor does the Delete key. Ctrl with Z, X, C or V runs undo, cut, copy or paste; the
+    // menu key and Shift+F10 open the menu at the current cell, Alt+F10 goes to the toolbar.
     bool tecla_abajo(int KeyCode, Modificadores mods);
     /// Returns whether the key was used.
     bool tecla_pulsada(int KeyAscii);
 
     // Mouse on the grid. A press commits an open editor. The second press of a double click comes as
     // `doble_clic` alone; its release is no click. A release on another cell than the press is none either.
+    // A release may open a menu: the right button's on the grid, the left one's after selecting.
     void raton_abajo(int x, int y, Boton boton, Modificadores mods);
     void raton_mueve(int x, int y);
     void raton_arriba(int x, int y, Boton boton);
@@ -54,9 +60,17 @@ public:
     /// A command chosen from a menu, a toolbar or by a shortcut: commits an open editor, ends a message in
     /// labMensaje and runs it. An item that has no command here: false, and nothing happens.
     bool orden(Opcion opcion);
-    /// A button of the toolbar by its key, "Copiar", "Pegar" or "Excel": the same, then the focus goes back
-    /// to the grid. Any other key: false.
+    /// A button of the toolbar by its key: the same, then the focus goes back to the grid. A gap or any other
+    /// key: false.
     bool boton(std::string_view clave);
+    /// An item of the open menu `mn_cambio`, counted from "Cancelar" = 0.
+    void elige_cambio(std::size_t elemento);
+
+    // What menus and toolbar consist of, for front ends to mirror; captions, marks and enabling are in
+    // EstadoTabla::menus, the lines of `mn_cambio` in EstadoTabla::menu_cambio.
+    [[nodiscard]] static std::span<const ElementoMenu> menu(Menu cual);
+    [[nodiscard]] static std::span<const BotonBarra> barra();
+    [[nodiscard]] bool visible(const BotonBarra& boton) const;
 
     /// For asking what is open; keys and focus go through the calls above.
     EditorCelda& editor() { return editor_; }
@@ -80,6 +94,7 @@ private:
     EstadoTabla& e_;
     EditorCelda& editor_;
     Navegacion& navegacion_;
+    MenusTabla menus_;
     bool arrastrando_ = false;
     Celda pulsada_; // where the left button went down
 };

@@ -99,11 +99,18 @@ void Tabla0::A_Edicion_mn_Ratón_Off() {
     protege(e_, miembro("A_Edicion_mn_Ratón_Off"), [&] { e_.ratonOff = true; });
 }
 
-// No rule yet.
-void Tabla0::A_Edicion_Columnas_Off() {}
+void Tabla0::A_Edicion_Columnas_Off() {
+    protege(e_, miembro("A_Edicion_Columnas_Off"), [&] {
+        e_.edicionColumnasOff = true;
+        e_.plataforma.marco.menus_cambiados();
+    });
+}
 
 void Tabla0::A_Especial_puntos_ON() {
-    protege(e_, miembro("A_Especial_puntos_ON"), [&] { e_.especialPuntos = true; });
+    protege(e_, miembro("A_Especial_puntos_ON"), [&] {
+        e_.especialPuntos = true;
+        e_.plataforma.marco.menus_cambiados();
+    });
 }
 
 void Tabla0::m_Sumar_dos_ColumnasAyB(std::int32_t colA, std::int32_t colB, std::int32_t colResul) {

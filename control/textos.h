@@ -16,6 +16,12 @@ inline constexpr std::string_view antes_de_descripcion = ": ";
 /// The column editor, where a member has its name.
 inline constexpr std::string_view lugar_editor_columnas = "Editor de columnas";
 
+// The places that the errors of the menus of a selection name: "Tabla Menú Lista - Error nº 7: ...".
+inline constexpr std::string_view lugar_menu_alfanumerico = "Menú Alfanumérico";
+inline constexpr std::string_view lugar_menu_lista = "Menú Lista";
+inline constexpr std::string_view lugar_menu_colores = "Menú Colores";
+inline constexpr std::string_view lugar_menu_copia = "Menú Copia";
+
 // Of the colour picker: "ERROR en Vdk_Sys.DLL Nº75", a new line, a blank, the description, a new line, its place.
 inline constexpr std::string_view prefijo_color = "ERROR en Vdk_Sys.DLL Nº";
 inline constexpr std::string_view antes_de_descripcion_color = "\r\n ";

@@ -43,6 +43,7 @@ struct EstadoTabla {
     bool edicionColor = false; ///< colour cells are painted in their colour
     bool ratonOff = false; ///< no right-click menu, no copy menu, no Delete key
     bool especialPuntos = false; ///< special-points mode
+    bool edicionColumnasOff = false; ///< the toolbar offers neither paste nor its gaps
     bool primeraEscritura = false; ///< the host has written a cell
     std::int32_t ultimaFilaRaton = -1; ///< cell of the previous click
     std::int32_t ultimaColRaton = -1;

@@ -9,14 +9,18 @@
 namespace Qlt4_Tabla {
 
 MenuCambio::MenuCambio() {
-    elementos_.push_back({std::string(textos::menu_cancelar)});
-    elementos_.push_back({std::string(textos::menu_separador)});
+    for (const std::string_view titulo : {textos::menu_cancelar, textos::menu_separador})
+        elementos_.push_back({std::string(titulo), {}, false});
 }
 
 void MenuCambio::prepara(std::span<const std::string_view> entradas) {
     elementos_.resize(FIJOS);
-    for (EstadoOpcion& fijo : elementos_) fijo.marcada = false;
-    for (const std::string_view titulo : entradas) elementos_.push_back({std::string(titulo)});
+    for (Elemento& fijo : elementos_) fijo.marcada = false;
+    for (const std::string_view titulo : entradas) elementos_.push_back({std::string(titulo), {}, false});
+}
+
+void MenuCambio::colorea(std::size_t entrada, std::int32_t color) {
+    elementos_.at(FIJOS + entrada).color = color;
 }
 
 void MenuCambio::marca(std::size_t elemento) {

@@ -3,11 +3,11 @@
 // opens it prepares its entries; a click only checks one; who opened it looks for the check mark afterwards.
 #pragma once
 
-#include "core/estado_menus.h"
-
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -21,11 +21,19 @@ public:
     /// No entries.
     MenuCambio();
 
+    struct Elemento {
+        std::string titulo;
+        std::optional<std::int32_t> color; ///< a swatch to be shown beside the caption
+        bool marcada = false;
+    };
+
     /// The entries become these, in their order; nothing is checked any more.
     void prepara(std::span<const std::string_view> entradas);
+    /// A colour for an entry, counted as `marcada` counts.
+    void colorea(std::size_t entrada, std::int32_t color);
 
     /// All items, from "Cancelar" on.
-    [[nodiscard]] const std::vector<EstadoOpcion>& elementos() const { return elementos_; }
+    [[nodiscard]] const std::vector<Elemento>& elementos() const { return elementos_; }
 
     /// The click: checks an item, counted from "Cancelar" = 0. None of that number: nothing.
     void marca(std::size_t elemento);
@@ -33,7 +41,7 @@ public:
     [[nodiscard]] std::optional<std::size_t> marcada() const;
 
 private:
-    std::vector<EstadoOpcion> elementos_;
+    std::vector<Elemento> elementos_;
 };
 
 } // namespace Qlt4_Tabla

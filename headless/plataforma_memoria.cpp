@@ -37,6 +37,16 @@ void MarcoMemoria::pon_tamano(float ancho, float alto) {
     alto_ = std::max(alto, 0.0F);
 }
 
+void MarcoMemoria::abre_menu(Menu menu, DondeMenu donde) {
+    static constexpr std::string_view MENUS[] = {"mn_raton", "mn_cambio", "Mn_Especial_puntos", "mn_raton3"};
+    static constexpr std::string_view SITIOS[] = {"raton", "celda", "boton"};
+    abierto = {menu, donde};
+    registro_->push_back(std::string("menu ")
+                             .append(MENUS[static_cast<std::size_t>(menu)])
+                             .append(" ")
+                             .append(SITIOS[static_cast<std::size_t>(donde)]));
+}
+
 void MarcoMemoria::propiedad_cambiada(std::string_view nombre) {
     registro_->push_back("propiedad " + std::string(nombre));
 }

@@ -5,7 +5,7 @@
 //   "SelChange", "CambiaCasilla", "Salir", "ACambiadoValorCombo 2 3", "mensaje|16|titulo|texto", "pitido",
 //   "puntero 11", "propiedad Rows", "captura", "restaura 1", "ajuste application|section|key=value",
 //   "dialogo_fichero abrir|title|filter|folder|name|extension", "dialogo_color title",
-//   "dialogo_columnas title", "hoja muestra"
+//   "dialogo_columnas title", "hoja muestra", "menu mn_raton raton"
 // Notices of view, labels, menus and sizes are kept or counted apart. Read on in vista_memoria.h and
 // editores_memoria.h.
 #pragma once
@@ -30,6 +30,7 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -70,6 +71,8 @@ public:
     int veces_etiquetas = 0;
     int veces_menus = 0;
     int veces_enfoca = 0;
+    int veces_barra = 0;
+    std::optional<std::pair<Menu, DondeMenu>> abierto; ///< the menu opened last; nothing closes it
 
     [[nodiscard]] float ancho() const override { return ancho_; }
 
@@ -80,6 +83,10 @@ public:
     void etiquetas_cambiadas() override { ++veces_etiquetas; }
 
     void menus_cambiados() override { ++veces_menus; }
+
+    void abre_menu(Menu menu, DondeMenu donde) override;
+
+    void enfoca_barra() override { ++veces_barra; }
 
     void propiedad_cambiada(std::string_view nombre) override;
     void enfoca_tablero() override;

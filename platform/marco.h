@@ -8,6 +8,12 @@
 
 namespace Qlt4_Tabla {
 
+/// The menus that open over the table.
+enum class Menu { mn_raton, mn_cambio, Mn_Especial_puntos, mn_raton3 };
+
+/// Where a menu opens: at the mouse, at the current cell, or under the toolbar button "Propiedades".
+enum class DondeMenu { Raton, CeldaActual, BotonOpciones };
+
 class Marco {
 public:
     virtual ~Marco() = default;
@@ -19,7 +25,12 @@ public:
     /// A label's text or visibility changed; the frame lays itself out again, so that the grid makes room.
     virtual void etiquetas_cambiadas() = 0;
     /// A menu item's caption, visibility, enabling or check mark changed.
+    /// The same for a button of the toolbar.
     virtual void menus_cambiados() = 0;
+    /// Opens a menu and returns at once; what the user chooses comes back as a call of its own.
+    virtual void abre_menu(Menu menu, DondeMenu donde) = 0;
+    /// Gives the keyboard focus to the toolbar.
+    virtual void enfoca_barra() = 0;
     /// A persisted property got a new value: the host's form is to be saved again.
     virtual void propiedad_cambiada(std::string_view nombre) = 0;
     /// Gives the keyboard focus to the grid.
@@ -41,6 +52,10 @@ public:
     void etiquetas_cambiadas() override {}
 
     void menus_cambiados() override {}
+
+    void abre_menu(Menu, DondeMenu) override {}
+
+    void enfoca_barra() override {}
 
     void propiedad_cambiada(std::string_view) override {}
 

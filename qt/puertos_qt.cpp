@@ -123,7 +123,17 @@ void PuertosQt::etiquetas_cambiadas() {
     if (vista_) widget_.refresca_etiquetas();
 }
 
-void PuertosQt::menus_cambiados() {}
+void PuertosQt::menus_cambiados() {
+    if (vista_) widget_.refresca_barra();
+}
+
+void PuertosQt::abre_menu(Menu menu, DondeMenu donde) {
+    if (vista_) widget_.abre_menu(menu, donde);
+}
+
+void PuertosQt::enfoca_barra() {
+    if (vista_) widget_.enfoca_barra();
+}
 
 void PuertosQt::propiedad_cambiada(std::string_view nombre) {
     if (vista_) emit widget_.propiedad_cambiada(a_q(nombre));

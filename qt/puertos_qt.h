@@ -61,6 +61,8 @@ public:
     void pon_tamano(float ancho, float alto) override;
     void etiquetas_cambiadas() override;
     void menus_cambiados() override;
+    void abre_menu(Menu menu, DondeMenu donde) override;
+    void enfoca_barra() override;
     void propiedad_cambiada(std::string_view nombre) override;
     void enfoca_tablero() override;
 

@@ -3,9 +3,11 @@
 #include "qt/tabla_widget.h"
 
 #include "qt/accesible.h"
+#include "qt/barra_tabla.h"
 #include "qt/casilla.h"
 #include "qt/colores_qt.h"
 #include "qt/lista_celda.h"
+#include "qt/menus_qt.h"
 #include "qt/puertos_qt.h"
 #include "qt/vista_rejilla.h"
 
@@ -49,6 +51,8 @@ struct TablaWidget::Interior {
           vista(new VistaRejilla(tabla, &w)),
           casilla(new Casilla(*vista)),
           lista(new ListaCelda(*vista)),
+          barra(new BarraTabla(*vista, &w)),
+          menus(new MenusQt(*vista, *barra)),
           tira(new QWidget(&w)),
           numero_filas(new QLabel(tira)),
           mensaje(new QLabel(tira)) {
@@ -61,6 +65,8 @@ struct TablaWidget::Interior {
     VistaRejilla* vista; // the widgets belong to their parents
     Casilla* casilla;
     ListaCelda* lista;
+    BarraTabla* barra;
+    MenusQt* menus;
     QWidget* tira;
     QLabel* numero_filas;
     QLabel* mensaje;
@@ -84,6 +90,7 @@ TablaWidget::TablaWidget(const Sustituye& sustituye, QWidget* padre)
     auto* todo = new QVBoxLayout(this);
     todo->setContentsMargins(0, 0, 0, 0);
     todo->setSpacing(0);
+    todo->addWidget(yo_->barra);
     todo->addWidget(yo_->vista, 1);
     todo->addWidget(yo_->tira);
     refresca_etiquetas();
@@ -92,6 +99,7 @@ TablaWidget::TablaWidget(const Sustituye& sustituye, QWidget* padre)
 TablaWidget::~TablaWidget() {
     // An editor that loses its focus while its parents die must find no table to write to.
     yo_->tabla.mandos().editor().descarta();
+    delete yo_->barra; // its buttons ask the grid
     delete yo_->vista;
 }
 
@@ -106,6 +114,12 @@ void TablaWidget::pon_fichero_ajustes(const QString& fichero) { yo_->puertos.aju
 QSize TablaWidget::sizeHint() const { return {480, 320}; }
 
 QSize TablaWidget::minimumSizeHint() const { return {120, 90}; }
+
+void TablaWidget::refresca_barra() { yo_->barra->refresca(); }
+
+void TablaWidget::enfoca_barra() { yo_->barra->enfoca(); }
+
+void TablaWidget::abre_menu(Menu menu, DondeMenu donde) { yo_->menus->abre(menu, donde); }
 
 // The strip keeps its height whether its labels show or not: nothing jumps while the user types.
 void TablaWidget::refresca_etiquetas() {

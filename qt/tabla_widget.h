@@ -74,6 +74,9 @@ private:
     struct Interior;
 
     void refresca_etiquetas();
+    void refresca_barra();
+    void enfoca_barra();
+    void abre_menu(Menu menu, DondeMenu donde);
 
     std::unique_ptr<Interior> yo_;
 };

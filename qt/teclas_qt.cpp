@@ -33,7 +33,13 @@ constexpr Par TECLAS[] = {
     {Qt::Key_Down, teclas::ABAJO},
     {Qt::Key_Delete, teclas::SUPR},
     {Qt::Key_F2, teclas::F2},
+    {Qt::Key_Menu, teclas::MENU},
 };
+
+// Only with Shift or Alt alone: the menu at the current cell, the toolbar. The plain key is the window's.
+bool es_F10_de_la_rejilla(const QKeyEvent& e) {
+    return e.key() == Qt::Key_F10 && (e.modifiers() == Qt::ShiftModifier || e.modifiers() == Qt::AltModifier);
+}
 
 // Only with Ctrl alone; else they are typed, or some other program's shortcuts.
 constexpr Par TECLAS_CON_CONTROL[] = {
@@ -53,6 +59,7 @@ int busca(const Par (&pares)[N], int tecla) {
 } // namespace
 
 int codigo_tecla_abajo(const QKeyEvent& e) {
+    if (es_F10_de_la_rejilla(e)) return teclas::F10;
     const int codigo = busca(TECLAS, e.key());
     if (codigo != teclas::NINGUNA || e.modifiers() != Qt::ControlModifier) return codigo;
     return busca(TECLAS_CON_CONTROL, e.key());
@@ -84,7 +91,7 @@ std::vector<int> codigos_tecleados(const QKeyEvent& e) {
 }
 
 bool es_de_la_rejilla(const QKeyEvent& e) {
-    if (!codigos_tecleados(e).empty()) return true;
+    if (!codigos_tecleados(e).empty() || es_F10_de_la_rejilla(e)) return true;
     const int codigo = codigo_tecla_abajo(e);
     if ((e.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) != 0) return false;
     if (!e.modifiers().testFlag(Qt::ControlModifier)) return codigo != teclas::NINGUNA;

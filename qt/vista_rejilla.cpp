@@ -200,7 +200,7 @@ bool VistaRejilla::viewportEvent(QEvent* e) {
 void VistaRejilla::paintEvent(QPaintEvent* e) {
     pedidos_ = 0;
     const EditorCelda& editor = tabla_.mandos().editor();
-    PintorRejilla::Aspecto aspecto{palette(), hasFocus() || editor.abierto(), isEnabled()};
+    PintorRejilla::Aspecto aspecto{palette(), hasFocus() || menu_encima_ || editor.abierto(), isEnabled()};
     if (editor.abierto()) {
         aspecto.ocultar_fila = editor.fila();
         aspecto.ocultar_col = editor.col();
@@ -234,11 +234,13 @@ void VistaRejilla::showEvent(QShowEvent* e) {
 
 void VistaRejilla::focusInEvent(QFocusEvent* e) {
     QAbstractScrollArea::focusInEvent(e);
+    menu_encima_ = false;
     repinta_realce();
 }
 
 void VistaRejilla::focusOutEvent(QFocusEvent* e) {
     QAbstractScrollArea::focusOutEvent(e);
+    menu_encima_ = e->reason() == Qt::PopupFocusReason;
     repinta_realce();
 }
 
@@ -314,6 +316,7 @@ void VistaRejilla::mouseReleaseEvent(QMouseEvent* e) {
         columna_en_mano_ = -1;
         return;
     }
+    raton_ = e->globalPosition().toPoint();
     const QPoint p = a_twips(e->position());
     tabla_.mandos().raton_arriba(p.x(), p.y(), boton_de(e->button()));
 }

@@ -28,6 +28,9 @@ public:
     /// The place of a cell in viewport pixels, whether seen or not.
     [[nodiscard]] QRect rect_celda(int fila, int col) const;
 
+    /// Where the mouse was at its last event over the grid, on the screen.
+    [[nodiscard]] QPoint sitio_del_raton() const { return raton_; }
+
     /// Tab pressed in an open editor: the focus goes on from the grid, as in any form.
     bool sale_por_tabulador(bool siguiente) { return focusNextPrevChild(siguiente); }
 
@@ -93,11 +96,13 @@ private:
     Tabla0& tabla_;
     Dibujado dibujado_;
     int pedidos_ = 0; // repaint requests since the last painting
+    QPoint raton_;
     int columna_en_mano_ = -1; // column whose edge is dragged
     int agarre_ = 0; // where the mouse took the edge, less the width then
     int rueda_y_ = 0; // wheel steps of less than a notch, added up
     int rueda_x_ = 0;
     bool poniendo_barras_ = false;
+    bool menu_encima_ = false; // the focus went to a menu and will be back
     const QMetaObject* clase_ventana_ = nullptr; // of the window that the editor was shown on
 };
 

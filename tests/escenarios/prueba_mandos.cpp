@@ -117,7 +117,7 @@ TEST_F(PruebaMandos, los_otros_botones_no_seleccionan) {
         m().raton_arriba(x(2), y(2), boton);
     }
     EXPECT_EQ(tabla.estado().ultimaFilaRaton, -1);
-    EXPECT_THAT(p.registro, IsEmpty());
+    EXPECT_THAT(p.registro, ElementsAre("menu mn_raton raton"));
 }
 
 TEST_F(PruebaMandos, soltar_otro_boton_no_acaba_el_arrastre) {

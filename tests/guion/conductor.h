@@ -57,12 +57,20 @@ public:
     virtual void compone(std::string_view texto) = 0;
     /// Left click on a cell; row and column -1: on the grid beyond its last cell.
     virtual void clic(Celda celda, Modificadores mods) = 0;
+    virtual void clic_derecho(Celda celda) = 0;
     virtual void doble_clic(Celda celda) = 0;
     /// Presses on one cell, moves to the other, releases there.
     virtual void arrastra(Celda desde, Celda hasta, Modificadores mods) = 0;
     virtual void rueda(int signo) = 0;
     /// Drags the bar of the rows until this row is the top one.
     virtual void barra(int fila) = 0;
+    /// Clicks a button of the toolbar.
+    virtual void boton(std::string_view clave) = 0;
+    /// Chooses an item by its name in the menu that is open. A menu that nobody chooses from closes at the
+    /// next step.
+    virtual void elige_menu(std::string_view nombre) = 0;
+    /// The same in the menu of changing entries, by the caption.
+    virtual void elige_cambio(std::string_view titulo) = 0;
     /// Moves in the open list to an entry: by the keyboard, or clicks it.
     virtual void elige_entrada(std::string_view texto, bool con_raton) = 0;
     /// The editor or the grid loses the focus for this reason...

@@ -7,9 +7,23 @@
 #include "tests/guion/palabras.h"
 
 #include <algorithm>
+#include <optional>
+#include <span>
 #include <utility>
 
 namespace Qlt4_Tabla {
+
+namespace {
+
+const ElementoMenu* elemento_de_menu(std::span<const ElementoMenu> menu, std::string_view nombre) {
+    for (const ElementoMenu& uno : menu) {
+        if (uno.nombre == nombre && uno.clase != ClaseElemento::Separador) return &uno;
+        if (const ElementoMenu* const hijo = elemento_de_menu(uno.hijos, nombre)) return hijo;
+    }
+    return nullptr;
+}
+
+} // namespace
 
 ConductorMemoria::ConductorMemoria() {
     p_.foco.casilla_pierde = [this] { tabla_.mandos().casilla_pierde_foco(motivo_); };
@@ -100,6 +114,14 @@ void ConductorMemoria::clic(Celda celda, Modificadores mods) {
     obedece();
 }
 
+void ConductorMemoria::clic_derecho(Celda celda) {
+    const Celda p = punto_de(celda);
+    p_.foco.pide(Foco::Tablero);
+    tabla_.mandos().raton_abajo(p.col, p.fila, Boton::Derecho, {});
+    tabla_.mandos().raton_arriba(p.col, p.fila, Boton::Derecho);
+    obedece();
+}
+
 void ConductorMemoria::doble_clic(Celda celda) {
     const Celda p = punto_de(celda);
     clic(celda, {});
@@ -124,6 +146,38 @@ void ConductorMemoria::rueda(int signo) {
 void ConductorMemoria::barra(int fila) {
     tabla_.mandos().desplaza_filas(fila);
     obedece();
+}
+
+void ConductorMemoria::boton(std::string_view clave) {
+    const auto barra = Mandos::barra();
+    const auto dato = std::find_if(barra.begin(), barra.end(), [&](const BotonBarra& b) { return b.clave == clave; });
+    if (dato == barra.end() || dato->ayuda.empty() || !tabla_.mandos().visible(*dato))
+        throw FalloGuion("no such button: " + std::string(clave));
+    tabla_.mandos().boton(clave);
+    obedece();
+}
+
+void ConductorMemoria::elige_menu(std::string_view nombre) {
+    const std::optional<std::pair<Menu, DondeMenu>> abierto = std::exchange(p_.marco.abierto, std::nullopt);
+    if (!abierto) throw FalloGuion("no menu is open");
+    const ElementoMenu* const elemento = elemento_de_menu(Mandos::menu(abierto->first), nombre);
+    if (elemento == nullptr || !elemento->opcion) throw FalloGuion("no such item: " + std::string(nombre));
+    const EstadoOpcion& estado = tabla_.estado().menus[*elemento->opcion];
+    if (!estado.visible || !estado.activa) throw FalloGuion("cannot be chosen: " + std::string(nombre));
+    tabla_.mandos().orden(*elemento->opcion);
+    obedece();
+}
+
+void ConductorMemoria::elige_cambio(std::string_view titulo) {
+    const std::optional<std::pair<Menu, DondeMenu>> abierto = std::exchange(p_.marco.abierto, std::nullopt);
+    if (!abierto || abierto->first != Menu::mn_cambio) throw FalloGuion("the menu is not open");
+    const auto& elementos = tabla_.estado().menu_cambio.elementos();
+    for (std::size_t i = 0; i < elementos.size(); ++i) {
+        if (elementos[i].titulo != titulo) continue;
+        tabla_.mandos().elige_cambio(i);
+        return obedece();
+    }
+    throw FalloGuion("no such entry: " + std::string(titulo));
 }
 
 void ConductorMemoria::elige_entrada(std::string_view texto, bool con_raton) {

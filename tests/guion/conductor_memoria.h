@@ -19,10 +19,14 @@ public:
     void pulsa(const Pulsacion& tecla) override;
     void compone(std::string_view texto) override;
     void clic(Celda celda, Modificadores mods) override;
+    void clic_derecho(Celda celda) override;
     void doble_clic(Celda celda) override;
     void arrastra(Celda desde, Celda hasta, Modificadores mods) override;
     void rueda(int signo) override;
     void barra(int fila) override;
+    void boton(std::string_view clave) override;
+    void elige_menu(std::string_view nombre) override;
+    void elige_cambio(std::string_view titulo) override;
     void elige_entrada(std::string_view texto, bool con_raton) override;
     void pierde_foco(MotivoFoco motivo) override;
     void recupera_foco() override;

@@ -18,7 +18,7 @@ struct NombreTecla {
     char32_t caracter;
 };
 
-constexpr std::array<NombreTecla, 16> TECLAS{{
+constexpr std::array<NombreTecla, 18> TECLAS{{
     {"Intro", teclas::INTRO, 13},
     {"Escape", teclas::ESCAPE, 27},
     {"Espacio", teclas::ESPACIO, 32},
@@ -35,6 +35,8 @@ constexpr std::array<NombreTecla, 16> TECLAS{{
     {"Fin", teclas::FIN, 0},
     {"RePag", teclas::REPAG, 0},
     {"AvPag", teclas::AVPAG, 0},
+    {"Menu", teclas::MENU, 0},
+    {"F10", teclas::F10, 0},
 }};
 
 Modificadores toma_modificadores(std::string_view& nombre) {
@@ -131,12 +133,7 @@ void orden(Conductor& c, Palabras& p) {
     if (!c.tabla().mandos().orden(opcion_de_nombre(nombre))) throw FalloGuion("no command: " + nombre);
 }
 
-void boton(Conductor& c, Palabras& p) {
-    const std::string clave = p.palabra();
-    if (!c.tabla().mandos().boton(clave)) throw FalloGuion("no button: " + clave);
-}
-
-constexpr std::array<std::pair<std::string_view, Paso>, 17> PASOS{{
+constexpr std::array<std::pair<std::string_view, Paso>, 20> PASOS{{
     {"pulsa", pulsa},
     {"tecla", pulsa},
     {"teclea", teclea},
@@ -153,7 +150,10 @@ constexpr std::array<std::pair<std::string_view, Paso>, 17> PASOS{{
     {"ventana", ventana},
     {"elige", elige},
     {"orden", orden},
-    {"boton", boton},
+    {"boton", [](Conductor& c, Palabras& p) { c.boton(p.palabra()); }},
+    {"derecho", [](Conductor& c, Palabras& p) { c.clic_derecho(p.celda()); }},
+    {"menu", [](Conductor& c, Palabras& p) { c.elige_menu(p.palabra()); }},
+    {"cambio", [](Conductor& c, Palabras& p) { c.elige_cambio(p.resto()); }},
 }};
 
 } // namespace

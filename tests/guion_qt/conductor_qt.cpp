@@ -16,6 +16,7 @@
 #include <QInputMethodEvent>
 #include <QLabel>
 #include <QScrollBar>
+#include <QToolButton>
 
 #include <array>
 #include <cstdlib>
@@ -31,7 +32,7 @@ constexpr int ALTO_PRIMERO = 6000;
 constexpr int MUESCA = 120;
 constexpr int ALTO_OTRO_PX = 30;
 
-constexpr std::array<std::pair<int, Qt::Key>, 17> TECLAS{{
+constexpr std::array<std::pair<int, Qt::Key>, 19> TECLAS{{
     {teclas::RETROCESO, Qt::Key_Backspace},
     {teclas::TAB, Qt::Key_Tab},
     {teclas::INTRO, Qt::Key_Return},
@@ -49,6 +50,8 @@ constexpr std::array<std::pair<int, Qt::Key>, 17> TECLAS{{
     {teclas::F2, Qt::Key_F2},
     {teclas::F5, Qt::Key_F5},
     {teclas::F1, Qt::Key_F1},
+    {teclas::F10, Qt::Key_F10},
+    {teclas::MENU, Qt::Key_Menu},
 }};
 
 // Letters and digits are their own codes on both sides; the rest goes by what it types.
@@ -102,7 +105,8 @@ ConductorQt::~ConductorQt() { menu_.close(); }
 Plataforma ConductorQt::sustituye(const Plataforma& suya) {
     mensajes_.conecta(suya.mensajes);
     portapapeles_.conecta(suya.portapapeles);
-    return {suya.vista, suya.marco, suya.casilla, suya.lista, mensajes_, suya.separador, p_.pasos, p_.ajustes,
+    marco_.conecta(suya.marco);
+    return {suya.vista, marco_, suya.casilla, suya.lista, mensajes_, suya.separador, p_.pasos, p_.ajustes,
         p_.ficheros, p_.dialogo_fichero, portapapeles_, p_.hoja_calculo, p_.dialogo_color,
         p_.dialogo_columnas};
 }
@@ -138,6 +142,7 @@ void ConductorQt::atiende() { QCoreApplication::processEvents(); }
 // --- The user ---
 
 void ConductorQt::pulsa(const Pulsacion& tecla) {
+    deja_menu();
     const Qt::KeyboardModifiers mods = modificadores_qt(tecla.mods);
     // Keys with a name type what the toolkit gives them.
     if (tecla.caracter < 32 || tecla.caracter == 127)
@@ -148,6 +153,7 @@ void ConductorQt::pulsa(const Pulsacion& tecla) {
 }
 
 void ConductorQt::compone(std::string_view texto) {
+    deja_menu();
     QInputMethodEvent e;
     e.setCommitString(a_qstring(texto));
     if (QWidget* quien = QApplication::focusWidget()) QApplication::sendEvent(quien, &e);
@@ -173,17 +179,26 @@ QPoint ConductorQt::punto_pulsable(Celda celda) const {
 }
 
 void ConductorQt::clic(Celda celda, Modificadores mods) {
+    deja_menu();
     manos::clic(*vista_->viewport(), punto_pulsable(celda), modificadores_qt(mods));
     atiende();
 }
 
+void ConductorQt::clic_derecho(Celda celda) {
+    deja_menu();
+    manos::clic(*vista_->viewport(), punto_pulsable(celda), {}, Qt::RightButton);
+    atiende();
+}
+
 void ConductorQt::doble_clic(Celda celda) {
+    deja_menu();
     manos::doble_clic(*vista_->viewport(), punto_pulsable(celda));
     atiende();
 }
 
 // One move only: cells on the way would raise events of their own.
 void ConductorQt::arrastra(Celda desde, Celda hasta, Modificadores mods) {
+    deja_menu();
     QWidget& hoja = *vista_->viewport();
     const QPoint fin = punto_de(hasta);
     manos::aprieta(hoja, punto_pulsable(desde), modificadores_qt(mods));
@@ -193,16 +208,72 @@ void ConductorQt::arrastra(Celda desde, Celda hasta, Modificadores mods) {
 }
 
 void ConductorQt::rueda(int signo) {
+    deja_menu();
     manos::rueda(*vista_->viewport(), vista_->viewport()->rect().center(), {0, signo * MUESCA});
     atiende();
 }
 
 void ConductorQt::barra(int fila) {
+    deja_menu();
     vista_->verticalScrollBar()->setSliderPosition(fila);
     atiende();
 }
 
+QMenu* ConductorQt::menu_abierto() const {
+    for (QMenu* menu : vista_->findChildren<QMenu*>())
+        if (menu->isVisible()) return menu;
+    return nullptr;
+}
+
+void ConductorQt::deja_menu() {
+    while (QMenu* menu = menu_abierto()) {
+        manos::pulsa(*menu, Qt::Key_Escape);
+        atiende();
+        if (menu_abierto() == menu) menu->close();
+    }
+}
+
+void ConductorQt::boton(std::string_view clave) {
+    deja_menu();
+    auto* boton = widget_->findChild<QToolButton*>(a_qstring(clave));
+    if (boton == nullptr || !boton->isVisible()) throw FalloGuion("no such button: " + std::string(clave));
+    manos::clic(*boton, boton->rect().center());
+    atiende();
+}
+
+void ConductorQt::elige(QMenu& menu, QAction& accion) {
+    if (!accion.isVisible() || !accion.isEnabled())
+        throw FalloGuion("cannot be chosen: " + accion.text().toStdString());
+    const QPoint sitio = menu.actionGeometry(&accion).center();
+    manos::mueve(menu, sitio);
+    manos::clic(menu, sitio);
+    atiende();
+}
+
+void ConductorQt::elige_menu(std::string_view nombre) {
+    QMenu* menu = menu_abierto();
+    if (menu == nullptr) throw FalloGuion("no menu is open");
+    auto* accion = menu->findChild<QAction*>(a_qstring(nombre));
+    if (accion == nullptr) throw FalloGuion("no such item: " + std::string(nombre));
+    auto* suyo = qobject_cast<QMenu*>(accion->parent());
+    if (suyo != nullptr && suyo != menu) {
+        elige(*menu, *suyo->menuAction());
+        if (!suyo->isVisible()) throw FalloGuion("the submenu did not open");
+        menu = suyo;
+    }
+    elige(*menu, *accion);
+}
+
+void ConductorQt::elige_cambio(std::string_view titulo) {
+    QMenu* menu = menu_abierto();
+    if (menu == nullptr) throw FalloGuion("no menu is open");
+    for (QAction* accion : menu->actions())
+        if (accion->text() == a_qstring(titulo)) return elige(*menu, *accion);
+    throw FalloGuion("no such entry: " + std::string(titulo));
+}
+
 void ConductorQt::elige_entrada(std::string_view texto, bool con_raton) {
+    deja_menu();
     if (!lista_->isVisible()) throw FalloGuion("the list is not open");
     const int indice = lista_->findText(a_qstring(texto), Qt::MatchExactly | Qt::MatchCaseSensitive);
     if (indice < 0) throw FalloGuion("no such entry: " + std::string(texto));
@@ -224,6 +295,7 @@ void ConductorQt::elige_entrada(std::string_view texto, bool con_raton) {
 }
 
 void ConductorQt::pierde_foco(MotivoFoco motivo) {
+    deja_menu();
     switch (motivo) {
     case MotivoFoco::Menu: menu_.popup(ventana_.mapToGlobal(QPoint(5, 5))); break;
     case MotivoFoco::Ventana:
@@ -250,6 +322,7 @@ void ConductorQt::recupera_foco() {
 }
 
 void ConductorQt::arrastra_borde(int col, int twips) {
+    deja_menu();
     QWidget& hoja = *vista_->viewport();
     const QRect cabecera = vista_->rect_celda(0, col);
     const QPoint borde(cabecera.right(), cabecera.center().y());

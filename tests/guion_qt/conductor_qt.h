@@ -31,10 +31,14 @@ public:
     void pulsa(const Pulsacion& tecla) override;
     void compone(std::string_view texto) override;
     void clic(Celda celda, Modificadores mods) override;
+    void clic_derecho(Celda celda) override;
     void doble_clic(Celda celda) override;
     void arrastra(Celda desde, Celda hasta, Modificadores mods) override;
     void rueda(int signo) override;
     void barra(int fila) override;
+    void boton(std::string_view clave) override;
+    void elige_menu(std::string_view nombre) override;
+    void elige_cambio(std::string_view titulo) override;
     void elige_entrada(std::string_view texto, bool con_raton) override;
     void pierde_foco(MotivoFoco motivo) override;
     void recupera_foco() override;
@@ -73,12 +77,16 @@ private:
     [[nodiscard]] QPoint punto_pulsable(Celda celda) const; // the same; outside, really outside
     void escucha();
     void activa();
+    [[nodiscard]] QMenu* menu_abierto() const;
+    void deja_menu(); // Escape: a user who goes on closes it first
+    void elige(QMenu& menu, QAction& accion);
     void comprueba_pintura();
     void atiende(); // what waits in the queue of events: paints, sizes, deferred calls
 
     PlataformaMemoria p_;
     MensajesReales mensajes_{p_.mensajes, p_.registro};
     PortapapelesCerrable portapapeles_;
+    MarcoVisto marco_{p_.marco};
     QWidget ventana_;
     QLineEdit* otro_ = nullptr; // where the focus goes when it leaves the table
     TablaWidget* widget_ = nullptr;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Two seams of a widget under test that go on to the widget's own: MensajesReales records each message and
-// lets a user answer the real box, PortapapelesCerrable can refuse.
+// Seams of a widget under test that go on to the widget's own: MensajesReales records each message and
+// lets a user answer the real box, MarcoVisto records the menus, PortapapelesCerrable can refuse.
 #pragma once
 
 #include "headless/plataforma_memoria.h"
@@ -34,6 +34,39 @@ private:
     MensajesMemoria& memoria_;
     Registro& registro_;
     Mensajes* reales_ = nullptr;
+};
+
+/// The widget's own frame; each menu that opens is a line of the record.
+class MarcoVisto final : public Marco {
+public:
+    explicit MarcoVisto(MarcoMemoria& memoria) : memoria_(memoria) {}
+
+    void conecta(Marco& real) { real_ = &real; }
+
+    [[nodiscard]] float ancho() const override { return real_->ancho(); }
+
+    [[nodiscard]] float alto() const override { return real_->alto(); }
+
+    void pon_tamano(float ancho, float alto) override { real_->pon_tamano(ancho, alto); }
+
+    void etiquetas_cambiadas() override { real_->etiquetas_cambiadas(); }
+
+    void menus_cambiados() override { real_->menus_cambiados(); }
+
+    void abre_menu(Menu menu, DondeMenu donde) override {
+        memoria_.abre_menu(menu, donde);
+        real_->abre_menu(menu, donde);
+    }
+
+    void enfoca_barra() override { real_->enfoca_barra(); }
+
+    void propiedad_cambiada(std::string_view nombre) override { real_->propiedad_cambiada(nombre); }
+
+    void enfoca_tablero() override { real_->enfoca_tablero(); }
+
+private:
+    MarcoMemoria& memoria_;
+    Marco* real_ = nullptr;
 };
 
 class PortapapelesCerrable final : public Portapapeles {
