@@ -314,8 +314,7 @@ TEST_F(PruebaMenus, toda_orden_del_arbol_se_puede_elegir) {
     const auto sin_orden = [](const ElementoMenu& uno) {
         return !uno.opcion || uno.clase == ClaseElemento::Separador ||
             uno.clase == ClaseElemento::Encabezado || uno.clase == ClaseElemento::Submenu ||
-            uno.opcion == Opcion::mn_Especial_puntos_Añadir || uno.opcion == Opcion::mn_cancelar1 ||
-            uno.opcion == Opcion::MN_editor_de_columnas || uno.opcion == Opcion::mn_Especial_puntos_columnas;
+            uno.opcion == Opcion::mn_Especial_puntos_Añadir || uno.opcion == Opcion::mn_cancelar1;
     };
     const auto elige = [&](const auto& yo, std::span<const ElementoMenu> elementos) -> void {
         for (const ElementoMenu& uno : elementos) {

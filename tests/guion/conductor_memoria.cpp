@@ -150,7 +150,8 @@ void ConductorMemoria::barra(int fila) {
 
 void ConductorMemoria::boton(std::string_view clave) {
     const auto barra = Mandos::barra();
-    const auto dato = std::find_if(barra.begin(), barra.end(), [&](const BotonBarra& b) { return b.clave == clave; });
+    const auto dato =
+        std::find_if(barra.begin(), barra.end(), [&](const BotonBarra& b) { return b.clave == clave; });
     if (dato == barra.end() || dato->ayuda.empty() || !tabla_.mandos().visible(*dato))
         throw FalloGuion("no such button: " + std::string(clave));
     tabla_.mandos().boton(clave);
