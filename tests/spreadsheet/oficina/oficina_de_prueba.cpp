@@ -128,4 +128,10 @@ void OficinaDePrueba::muere() const {
     for (const int pid : procesos_con(carpeta_)) ::kill(pid, SIGKILL);
 }
 
+void OficinaDePrueba::se_cuelga() const {
+    for (const int pid : procesos_con(carpeta_)) ::kill(pid, SIGSTOP);
+}
+
+bool OficinaDePrueba::tiene_procesos() const { return !procesos_con(carpeta_).empty(); }
+
 } // namespace Qlt4_Tabla

@@ -39,6 +39,9 @@ public:
     [[nodiscard]] bool responde() const;
     /// Kills it as if it had crashed.
     void muere() const;
+    /// Stops it as if it hung.
+    void se_cuelga() const;
+    [[nodiscard]] bool tiene_procesos() const;
 
 private:
     [[nodiscard]] css::uno::Reference<css::frame::XDesktop2> escritorio() const;
