@@ -26,6 +26,8 @@ namespace Qlt4_Tabla {
 
 namespace {
 
+constexpr QSize AIRE_BOTON(12, 0); // beside its text, more than the style gives
+
 int a_twips_enteros(float twips) { return static_cast<int>(std::lround(twips)); }
 
 // The text of a control as it is seen, though "&" marks a key in it.
@@ -130,8 +132,8 @@ void VentanaColumnas::refresca() {
 void VentanaColumnas::distribuye() {
     const Unidades u(*this);
     etiqueta_->setText(sin_tecla(a_qstring(modelo_.visto().texto_etiqueta)));
-    const QSize aplicar = aplicar_->sizeHint();
-    const QSize cancelar = cancelar_->sizeHint();
+    const QSize aplicar = aplicar_->sizeHint() + AIRE_BOTON;
+    const QSize cancelar = cancelar_->sizeHint() + AIRE_BOTON;
     const DistribucionColumnas d = modelo_.distribuye({u.twips_x(contenido_->width()),
         u.twips_y(contenido_->height()), u.twips_y(std::max(aplicar.height(), cancelar.height())),
         u.twips_x(aplicar.width()), u.twips_x(cancelar.width()), u.twips_x(columna0_->sizeHint().width()),

@@ -28,8 +28,7 @@ struct MesaEditor {
     /// The user of one showing.
     template <class F>
     void muestra(F&& usuario) {
-        p.dialogo_columnas.usuario.emplace_back(
-            [this, usuario](ModeloColumnas& m) { static_cast<void>(m), usuario(); });
+        p.dialogo_columnas.usuario.emplace_back([usuario](ModeloColumnas& /*m*/) { usuario(); });
         editor.muestra();
     }
 

@@ -4,6 +4,7 @@
 #include "base/error.h"
 #include "qt/ajustes_qt.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
@@ -31,6 +32,7 @@ private slots:
     void otro_programa_lo_ve();
     void sin_uso_no_hay_fichero();
     void un_fichero_imposible_es_un_error();
+    void escribir_pone_otro_fichero_entero_en_su_sitio();
 
 private:
     std::unique_ptr<QTemporaryDir> carpeta_;
@@ -118,6 +120,21 @@ void TstAjustes::un_fichero_imposible_es_un_error() {
     QVERIFY(!a.lee("P", "S", "k").has_value());
     a.pon_fichero(fichero_);
     QCOMPARE(*a.lee("P", "S", "k"), std::string("1"));
+}
+
+// The old file is never written into: who has it open reads it as it was, and a program that dies in the middle
+// leaves it in its place.
+void TstAjustes::escribir_pone_otro_fichero_entero_en_su_sitio() {
+    AjustesQt a(fichero_);
+    a.escribe("P", "S", "k", "1");
+    QFile viejo(fichero_);
+    QVERIFY(viejo.open(QIODevice::ReadOnly | QIODevice::Unbuffered));
+    const QByteArray antes = viejo.readAll();
+    a.escribe("P", "S", "k", std::string(5000, 'x'));
+    viejo.seek(0);
+    QCOMPARE(viejo.readAll(), antes);
+    QVERIFY(QFileInfo(fichero_).size() > 5000);
+    QCOMPARE(QDir(carpeta_->path()).entryList(QDir::Files).size(), 1); // nothing left over
 }
 
 QTEST_GUILESS_MAIN(TstAjustes)
