@@ -20,7 +20,6 @@
 
 #include <array>
 #include <cstdlib>
-#include <stdexcept>
 #include <utility>
 
 namespace Qlt4_Tabla {
@@ -134,7 +133,7 @@ void ConductorQt::escucha() {
 
 void ConductorQt::activa() {
     ventana_.activateWindow();
-    if (!QTest::qWaitForWindowActive(&ventana_)) throw std::runtime_error("the window does not get active");
+    if (!QTest::qWaitForWindowActive(&ventana_)) p_.registro.emplace_back("the window does not get active");
 }
 
 void ConductorQt::atiende() { QCoreApplication::processEvents(); }
