@@ -207,7 +207,9 @@ std::string PuertosQt::Lista::texto() const {
 // --- Mensajes ---
 
 Respuesta PuertosQt::mensaje(std::string_view texto, EstiloMensaje estilo, std::string_view titulo) {
-    QMessageBox caja(widget_.window());
+    // Over the dialog of the table that is open, which would cover it otherwise.
+    QWidget* const dialogo = QApplication::activeModalWidget();
+    QMessageBox caja(dialogo != nullptr ? dialogo : widget_.window());
     caja.setTextFormat(Qt::PlainText);
     caja.setText(a_q(texto));
     caja.setWindowTitle(titulo.empty() ? QApplication::applicationDisplayName() : a_q(titulo));
