@@ -37,11 +37,17 @@ public:
     }
 
     void edita(std::vector<std::function<void()>> usuarios) {
+        edita(std::move(usuarios), [this] { tabla().mandos().orden(Opcion::MN_editor_de_columnas); });
+    }
+
+    /// The same, opened in another way.
+    void edita(std::vector<std::function<void()>> usuarios, const std::function<void()>& abre) {
         usuarios_ = std::move(usuarios);
         ++vuelta_;
+        esperas_ = 0;
         vistos = 0;
-        QTimer::singleShot(0, &ventana, [this] { atiende(); });
-        tabla().mandos().orden(Opcion::MN_editor_de_columnas);
+        QTimer::singleShot(0, &ventana, [this] { espera(); });
+        abre();
         QCOMPARE(vistos, static_cast<int>(usuarios_.size()));
         dialogo = nullptr;
     }
@@ -112,6 +118,12 @@ public:
 private:
     [[nodiscard]] const RejillaColumnas& modelo() const { return rejilla()->modelo(); }
 
+    // A menu may come before the editor.
+    void espera() {
+        if (qobject_cast<VentanaColumnas*>(QApplication::activeModalWidget()) != nullptr) return atiende();
+        if (++esperas_ < 1000) QTimer::singleShot(1, &ventana, [this] { espera(); });
+    }
+
     void atiende() {
         dialogo = qobject_cast<VentanaColumnas*>(QApplication::activeModalWidget());
         if (dialogo == nullptr || vistos == static_cast<int>(usuarios_.size())) return;
@@ -135,6 +147,7 @@ private:
 
     std::vector<std::function<void()>> usuarios_;
     int vuelta_ = 0;
+    int esperas_ = 0;
 };
 
 } // namespace Qlt4_Tabla

@@ -19,6 +19,7 @@ private slots:
 
     void se_ve_lo_publicado();
     void ocultar_renombrar_ensanchar_girar_y_aplicar();
+    void se_abre_desde_el_menu_de_la_tabla();
     void tras_aplicar_se_abre_otra_vez();
     void salir_no_cambia_nada_data();
     void salir_no_cambia_nada();
@@ -86,6 +87,25 @@ void TstColumnas::ocultar_renombrar_ensanchar_girar_y_aplicar() {
     QCOMPARE(m.tablero().ColAlignment(X), AlineacionCelda::Centro);
     QCOMPARE(m.formato(N).Accion, std::int16_t{3});
     QCOMPARE(m.tablero().color_fondo(0, N), 0xE0E0E0);
+}
+
+void TstColumnas::se_abre_desde_el_menu_de_la_tabla() {
+    MesaColumnas m;
+    const auto por_menu = [&] {
+        manos::clic(*m.vista->viewport(), m.centro(1, X), {}, Qt::RightButton);
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        QVERIFY(menu != nullptr);
+        for (QAction* accion : menu->actions())
+            if (accion->text() == QStringLiteral("Configuración..."))
+                QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(accion).center());
+    };
+    m.edita({[&] {
+                 m.clic_celda(F_X, ED_VISIBLE);
+                 m.aplica();
+             },
+                [&] { QCOMPARE(m.dice(F_X, ED_VISIBLE), QStringLiteral("No")); }},
+        por_menu);
+    QVERIFY(m.formato(X).Invisible);
 }
 
 void TstColumnas::tras_aplicar_se_abre_otra_vez() {
