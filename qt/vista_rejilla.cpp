@@ -51,6 +51,7 @@ VistaRejilla::VistaRejilla(Tabla0& tabla, QWidget* padre) : QAbstractScrollArea(
 // --- The editors over it ---
 
 void VistaRejilla::editor_mostrado() {
+    if (!hasFocus()) repinta_realce(); // with the editor it takes the look of having the focus
     clase_ventana_ = window()->metaObject();
     window()->installEventFilter(this);
 }
@@ -110,9 +111,12 @@ void VistaRejilla::celdas_cambiadas(int fila1, int col1, int fila2, int col2) {
     const int col = tablero().Col();
     if (fila1 <= fila && fila <= fila2 && col1 <= col && col <= col2) emit celda_actual_cambiada();
     if (pedidos_ >= MAX_PEDIDOS) return;
-    const bool una = fila1 == fila2 && col1 == col2 && !tablero().MergeCol(col1);
-    if (!una) {
-        repinta_filas(fila1, tablero().MergeCells() != 0 ? tablero().Rows() - 1 : fila2);
+    if (tablero().MergeCells() != 0) { // the run above or below the cell may begin or end there now
+        repinta_filas(std::min(fila1, 1), tablero().Rows() - 1);
+        return;
+    }
+    if (fila1 != fila2 || col1 != col2) {
+        repinta_filas(fila1, fila2);
         return;
     }
     if (fila1 != 0 && (fila1 < tablero().TopRow() || fila1 > ultima_fila_visible(tablero()))) return;

@@ -35,6 +35,9 @@ namespace Qlt4_Tabla {
 //   elige ROW COL [ROW COL]                 as an assistive program or the host moves the cursor
 //   orden ITEM                              a command by the name of its menu item
 //   boton KEY                               a button of the toolbar by its key
+//   derecho ROW COL                         the right button
+//   menu ITEM         cambio CAPTION        chooses from the menu that has opened: an item by its name, or
+//                                           an entry of the menu of changing entries
 [[nodiscard]] bool paso_usuario(Conductor& conductor, std::string_view palabra, Palabras& resto);
 
 // Steps of the world around (entorno.cpp):

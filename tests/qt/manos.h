@@ -111,7 +111,10 @@ private:
         }
         const auto boton = respuestas.front();
         respuestas.pop_front();
-        QTest::mouseClick(caja.button(boton), Qt::LeftButton);
+        if (QAbstractButton* suyo = caja.button(boton))
+            QTest::mouseClick(suyo, Qt::LeftButton);
+        else
+            caja.close(); // an answer that this box does not offer
     }
 
     std::function<void(const QString&)> oye_;
