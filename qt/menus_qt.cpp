@@ -21,6 +21,9 @@ namespace Qlt4_Tabla {
 
 namespace {
 
+// A command runs when its menu is gone: it may show a dialog, and that dialog's events destroy the menu.
+constexpr Qt::ConnectionType DESPUES = Qt::QueuedConnection;
+
 constexpr qsizetype MAX_ENTRADA = 60; // characters of a cell's text that an entry shows
 
 QString nombre_de(Menu menu) {
@@ -109,8 +112,9 @@ QAction* MenusQt::pon(QMenu& menu, const ElementoMenu& elemento) {
         accion->setShortcutVisibleInContextMenu(true);
         accion->setShortcutContext(Qt::WidgetShortcut);
     }
-    connect(accion, &QAction::triggered, &vista_,
-        [&vista = vista_, opcion = *elemento.opcion] { vista.tabla().mandos().orden(opcion); });
+    connect(
+        accion, &QAction::triggered, &vista_,
+        [&vista = vista_, opcion = *elemento.opcion] { vista.tabla().mandos().orden(opcion); }, DESPUES);
     return accion;
 }
 
@@ -123,8 +127,9 @@ void MenusQt::llena_cambio(QMenu& menu) {
         }
         QAction* accion = menu.addAction(entrada(a_qstring(elementos[i].titulo)));
         if (elementos[i].color) accion->setIcon(muestra(*elementos[i].color, menu));
-        connect(accion, &QAction::triggered, &vista_,
-            [&vista = vista_, i] { vista.tabla().mandos().elige_cambio(i); });
+        connect(
+            accion, &QAction::triggered, &vista_,
+            [&vista = vista_, i] { vista.tabla().mandos().elige_cambio(i); }, DESPUES);
     }
 }
 

@@ -98,6 +98,7 @@ void TstColumnas::se_abre_desde_el_menu_de_la_tabla() {
         for (QAction* accion : menu->actions())
             if (accion->text() == QStringLiteral("Configuración..."))
                 QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(accion).center());
+        QCoreApplication::processEvents(); // the command runs when the menu is gone
     };
     m.edita({[&] {
                  m.clic_celda(F_X, ED_VISIBLE);

@@ -39,6 +39,7 @@ private slots:
     void las_flechas_recorren_la_barra();
     void los_iconos_siguen_a_la_paleta();
     void la_rejilla_reclama_sus_teclas_de_menu_y_no_F10();
+    void una_orden_con_mensaje_no_toca_un_menu_muerto();
     void dos_tablas_abren_cada_una_su_menu();
 };
 
@@ -120,6 +121,7 @@ void TstMenus::la_marca_del_avance_se_ve() {
     QVERIFY(!accion(*menu, "MN_avance_horizontal")->isChecked());
     accion(*menu, "MN_avance_horizontal")->trigger();
     menu->close();
+    QCoreApplication::processEvents();
     QVERIFY(accion(*abre(m), "MN_avance_horizontal")->isChecked());
 }
 
@@ -131,6 +133,7 @@ void TstMenus::los_textos_de_las_celdas_se_ven_como_son() {
     QCOMPARE(
         titulos(*menu), QStringList({"Cancelar", "-", "Repetir  <R&&D 1>", "Incrementar en 1  <R&&D 1>"}));
     menu->actions().at(2)->trigger();
+    QCoreApplication::processEvents();
     QCOMPARE(m.celda(3, NOMBRE), QStringLiteral("R&D\t1"));
 }
 
@@ -192,6 +195,7 @@ void TstMenus::el_anfitrion_destruye_la_tabla_al_oir_Salir() {
     QMenu* menu = abre(m);
     QAction* salir = accion(*menu, "mn_salir");
     manos::clic(*menu, menu->actionGeometry(salir).center());
+    QCoreApplication::processEvents();
     QCOMPARE(m.recoge(), QStringLiteral("Salir"));
     QTRY_VERIFY(tabla.isNull());
 }
@@ -228,6 +232,7 @@ void TstMenus::la_barra_sigue_al_avance() {
     QMenu* menu = abre(m);
     accion(*menu, "MN_avance_horizontal")->trigger();
     menu->close();
+    QCoreApplication::processEvents();
     QVERIFY(boton(m, "Avance")->isChecked());
     manos::clic(*boton(m, "Avance"), boton(m, "Avance")->rect().center());
     QVERIFY(!boton(m, "Avance")->isChecked());
@@ -310,6 +315,20 @@ void TstMenus::la_rejilla_reclama_sus_teclas_de_menu_y_no_F10() {
     m.pulsa(Qt::Key_F10);
     m.pulsa(Qt::Key_F10, Qt::ControlModifier);
     QCOMPARE(ajenas, 2);
+}
+
+void TstMenus::una_orden_con_mensaje_no_toca_un_menu_muerto() {
+    MesaQt m;
+    QPointer<QMenu> menu = abre(m);
+    QAction* copiar = accion(*menu, "mn_salir");
+    bool vivo = true;
+    QObject::connect(m.widget, &TablaWidget::Salir, [&] {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // as a dialog's loop may
+        vivo = !menu.isNull();
+    });
+    manos::clic(*menu, menu->actionGeometry(copiar).center());
+    QCoreApplication::processEvents();
+    QVERIFY(!vivo);
 }
 
 void TstMenus::dos_tablas_abren_cada_una_su_menu() {
