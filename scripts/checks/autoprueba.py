@@ -24,6 +24,13 @@ BUENOS = {
     "colours/d.h": CABECERA + "// \"un texto con ñ dentro\" de un comentario\n",
     "control/e.h": CABECERA + '\n#include "editing/c.h"\n',
     "qt/f.h": CABECERA + '\n#include "control/e.h"\n\n#include <QWidget>\n',
+    "control/miembros.h": CABECERA + '\nMIEMBROS{{\n    {1, "Uno", 0x60030016, Metodo, {}, NADA, {6}},\n}};\n'
+        + 'EVENTOS{{\n    {1, "Sale", {}},\n}};\n',
+    "control/_tabla0.h": CABECERA + "\n    /// Does the first thing. Error 6: never.\n    virtual void Uno() = 0;\n",
+    "platform/eventos.h": CABECERA + "\n    /// 1: the user went out.\n    virtual void Sale() {}\n",
+    "examples/e/principal.cpp": CARTEL + "// begin: uno\nt.Uno();\n// end: uno\nu->Sale();\n",
+    "docs/guia_anfitrion.md": "`Uno` `Sale` [e](../examples/e/principal.cpp)\n"
+        "<!-- examples/e/principal.cpp : uno -->\n```cpp\nt.Uno();\n```\n",
     "headless/s.cpp": CARTEL + "#include <unistd.h>\n",
     "tests/base/a.cpp": CARTEL + '#include "base/a.h"\n\n#include <gtest/gtest.h>\n',
 }
@@ -54,6 +61,19 @@ MALOS = [
     ("ficheros", "core/m.cpp", CARTEL + "int a;\n" * 500, "at most 500"),
     ("ficheros", "control/m.h", CABECERA + "int a;\n" * 250, "at most 250"),
     ("ficheros", "platform/m.h", CABECERA + "class M {\n" + "    virtual void f() = 0;\n" * 11 + "};\n", "at most 10"),
+    ("guia", "docs/m.md", "```cpp\nint a;\n```\n", "no mark"),
+    ("guia", "docs/m.md", "<!-- core/b.h : b -->\n```cpp\nint a;\n```\n", "has no region b"),
+    ("guia", "docs/m.md", "<!-- examples/e/principal.cpp : uno -->\n```cpp\nt.Dos();\n```\n", "is not what"),
+    ("guia", "docs/m.md", "[b](b.md)\n", "b.md does not exist"),
+    ("guia", "docs/figuras/m.png", b"png", "no document shows it"),
+    ("guia", "docs/figuras/m.png", b"0" * 60_001, "at most 60000"),
+    ("guia", "docs/guia_anfitrion.md", "`Sale`\n", "does not name Uno"),
+    ("guia", "examples/e/principal.cpp", CARTEL + "// t.Uno(); u->Sale();\n", "no source of examples/ uses it"),
+    ("guia", "control/_tabla0.h", CABECERA + "\n    virtual void Uno() = 0;\n", "no contract above Uno"),
+    ("guia", "control/_tabla0.h", CABECERA + "\n    /// Does the first thing.\n    virtual void Uno() = 0;\n",
+        "does not name its error 6"),
+    ("guia", "platform/eventos.h", CABECERA + "\n    virtual void Sale() {}\n", "no contract above Sale"),
+    ("guia", "control/miembros.h", CABECERA, "no members found"),
     ("mapa", "core/m.h", CABECERA, "new or changed"),
     ("mapa", "core/m.h", "// SPDX-License-Identifier: MIT\n#pragma once\n", "no banner"),
     ("mapa", "core/b.h", None, "gone or changed"),
@@ -127,7 +147,7 @@ def pruebas():
     with tempfile.TemporaryDirectory() as temporal:
         modelo = Path(temporal) / "modelo"
         arbol_bueno(modelo)
-        for cual in ("capas", "textos", "ficheros", "mapa"):
+        for cual in ("capas", "textos", "ficheros", "guia", "mapa"):
             codigo, salida = corre(modelo, cual)
             if codigo != 0:
                 yield f"{cual}: refuses the good tree: {salida}"
