@@ -4,6 +4,8 @@
 // The descriptions are in base/textos.h.
 #pragma once
 
+#include "base/publico.h"
+
 #include <exception>
 #include <memory>
 #include <string>
@@ -31,9 +33,9 @@ enum class NumError : int {
 };
 
 // The Spanish description of an error number; empty for a number that is not a NumError.
-std::string_view descripcion_error(int numero) noexcept;
+TABLA_API std::string_view descripcion_error(int numero) noexcept;
 
-class Error : public std::exception {
+class TABLA_API Error : public std::exception {
 public:
     // With the description of the table.
     explicit Error(NumError numero);
@@ -53,6 +55,6 @@ private:
 };
 
 // Throws Error(numero).
-[[noreturn]] void lanza(NumError numero);
+[[noreturn]] TABLA_API void lanza(NumError numero);
 
 } // namespace Qlt4_Tabla

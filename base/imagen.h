@@ -3,11 +3,13 @@
 // looked into. A front end derives its own class from Imagen. Main names: Imagen, PunteroImagen.
 #pragma once
 
+#include "base/publico.h"
+
 #include <memory>
 
 namespace Qlt4_Tabla {
 
-class Imagen {
+class TABLA_API Imagen {
 public:
     virtual ~Imagen();
 

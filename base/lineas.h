@@ -3,6 +3,8 @@
 // Main names: busca_separador, cierra_lineas.
 #pragma once
 
+#include "base/publico.h"
+
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -39,6 +41,6 @@ namespace Qlt4_Tabla {
 
 /// The text with every line ended by CR LF, the last one included: CR LF, a lone LF and a lone CR each end a
 /// line. An empty text has no line and stays empty.
-[[nodiscard]] std::string cierra_lineas(std::string texto);
+[[nodiscard]] TABLA_API std::string cierra_lineas(std::string texto);
 
 } // namespace Qlt4_Tabla

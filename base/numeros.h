@@ -6,6 +6,8 @@
 // Real to whole: entero16_de_real, entero32_de_real. How columns use them: core/reglas_valor.h.
 #pragma once
 
+#include "base/publico.h"
+
 #include <charconv>
 #include <concepts>
 #include <cstddef>
@@ -25,21 +27,21 @@ namespace Qlt4_Tabla {
 // after the digits makes it a 32-bit value ("&HFFFF" is -1, "&HFFFF&" is 65535).
 // A number beyond the range of a double gives 0. The result is always finite. Never throws but for
 // memory; allocates only for texts of more than 100 characters.
-double Val(std::string_view texto);
+TABLA_API double Val(std::string_view texto);
 
 // The number a whole text is, blanks (U+0020, TAB) around it allowed and none within; a comma may
 // stand for the point. Nothing where the text is no number ("", "12 m", "1 2", "inf").
 // Error 6 beyond the range of a double.
-std::optional<double> numero_de_texto(std::string_view texto);
+TABLA_API std::optional<double> numero_de_texto(std::string_view texto);
 
 // Whole number of a text, halves rounded to even ("2.5" is 2). Error 13: the text is no number
 // (as numero_de_texto). Error 6: outside the range.
-std::int16_t entero16_de_texto(std::string_view texto);
-std::int32_t entero32_de_texto(std::string_view texto);
+TABLA_API std::int16_t entero16_de_texto(std::string_view texto);
+TABLA_API std::int32_t entero32_de_texto(std::string_view texto);
 
 // Whole number of a real, halves rounded to even. Error 6: outside the range, or not finite.
-std::int16_t entero16_de_real(double x);
-std::int32_t entero32_de_real(double x);
+TABLA_API std::int16_t entero16_de_real(double x);
+TABLA_API std::int32_t entero32_de_real(double x);
 
 // Bytes that any result of escribe_numero fits in.
 inline constexpr std::size_t capacidad_numero = 32;
@@ -48,13 +50,13 @@ inline constexpr std::size_t capacidad_numero = 32;
 // the number is below 1E15 and needs at most 15 decimals ("0.333333333333333"), else with an
 // exponent of two digits or more ("1E+15", "3.33333333333333E-02"). Either zero is "0".
 // Error 6 when x is not finite.
-std::string numero_a_texto(double x);
+TABLA_API std::string numero_a_texto(double x);
 // A Single: the same with 7 digits, so 0.1f is "0.1" and 1E7f is "1E+07".
-std::string numero_a_texto(float x);
+TABLA_API std::string numero_a_texto(float x);
 
 // The same into a buffer; the number of bytes written (no closing 0). Error 5 when `capacidad` is
 // less than capacidad_numero.
-std::size_t escribe_numero(double x, char* destino, std::size_t capacidad);
+TABLA_API std::size_t escribe_numero(double x, char* destino, std::size_t capacidad);
 
 // Whole numbers, exact, without blank: "-12".
 template <std::integral E>
@@ -64,8 +66,8 @@ std::string numero_a_texto(E n) {
 }
 
 // numero_a_texto with a place for the sign: a blank in front of a number that is not negative.
-std::string Str(double x);
-std::string Str(float x);
+TABLA_API std::string Str(double x);
+TABLA_API std::string Str(float x);
 
 template <std::integral E>
 std::string Str(E n) {
@@ -82,17 +84,17 @@ inline constexpr std::size_t capacidad_fijo = 336;
 // beyond the fifteenth are zeros. At least one digit before the point; no point with 0 decimals.
 // Either zero is "0.00"; a negative number that rounds to zero keeps its sign (-0.004 is "-0.00").
 // Error 6 when x is not finite.
-std::string formato_fijo(double x, int decimales);
+TABLA_API std::string formato_fijo(double x, int decimales);
 
 // The same into a buffer; the number of bytes written (no closing 0). Error 5 when `capacidad` is
 // less than capacidad_fijo.
-std::size_t escribe_fijo(double x, int decimales, char* destino, std::size_t capacidad);
+TABLA_API std::size_t escribe_fijo(double x, int decimales, char* destino, std::size_t capacidad);
 
 // "True" or "False".
-std::string_view booleano_a_texto(bool valor) noexcept;
+TABLA_API std::string_view booleano_a_texto(bool valor) noexcept;
 
 // "True" and "False", also "Verdadero" and "Falso", in any case of the letters, with blanks around
 // allowed; else a number, true when it is not 0. Error 13: neither; error 6 as numero_de_texto.
-bool booleano_de_texto(std::string_view texto);
+TABLA_API bool booleano_de_texto(std::string_view texto);
 
 } // namespace Qlt4_Tabla

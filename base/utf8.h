@@ -5,6 +5,8 @@
 // Main names: utf8::decodifica, codifica, longitud, siguiente, anterior, recorta, es_valido.
 #pragma once
 
+#include "base/publico.h"
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -22,34 +24,34 @@ struct Caracter {
 
 // The character that begins at byte `pos`. An invalid byte: sustituto, 1 byte, not valid.
 // At or beyond the end: sustituto, 0 bytes, not valid.
-Caracter decodifica(std::string_view texto, std::size_t pos) noexcept;
+TABLA_API Caracter decodifica(std::string_view texto, std::size_t pos) noexcept;
 
 // Appends the character to `destino`; a surrogate or a value above 0x10FFFF is written as sustituto.
-void codifica(char32_t punto, std::string& destino);
-std::string codifica(char32_t punto);
+TABLA_API void codifica(char32_t punto, std::string& destino);
+TABLA_API std::string codifica(char32_t punto);
 
 // Number of characters.
-std::size_t longitud(std::string_view texto) noexcept;
+TABLA_API std::size_t longitud(std::string_view texto) noexcept;
 
 // Byte at which the character after the one at byte `pos` begins; texto.size() at or beyond the end.
-std::size_t siguiente(std::string_view texto, std::size_t pos) noexcept;
+TABLA_API std::size_t siguiente(std::string_view texto, std::size_t pos) noexcept;
 
 // Byte at which the character before byte `pos` begins; 0 at the beginning. `pos` beyond the end
 // is taken as the end.
-std::size_t anterior(std::string_view texto, std::size_t pos) noexcept;
+TABLA_API std::size_t anterior(std::string_view texto, std::size_t pos) noexcept;
 
 // Byte at which character number `caracter` (0-based) begins; texto.size() beyond the last.
-std::size_t byte_de(std::string_view texto, std::size_t caracter) noexcept;
+TABLA_API std::size_t byte_de(std::string_view texto, std::size_t caracter) noexcept;
 
 // A view of at most `n` characters from character `inicio` (0-based) on; empty beyond the end.
-std::string_view recorta(
+TABLA_API std::string_view recorta(
     std::string_view texto, std::size_t inicio, std::size_t n = std::string_view::npos) noexcept;
 
 // Whether every byte belongs to a valid sequence (no overlong forms, surrogates or values above
 // 0x10FFFF).
-bool es_valido(std::string_view texto) noexcept;
+TABLA_API bool es_valido(std::string_view texto) noexcept;
 
 // Without the blanks (U+0020 only) at both ends; a view of the argument.
-std::string_view sin_blancos(std::string_view texto) noexcept;
+TABLA_API std::string_view sin_blancos(std::string_view texto) noexcept;
 
 } // namespace Qlt4_Tabla::utf8

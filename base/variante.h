@@ -6,6 +6,7 @@
 
 #include "base/imagen.h"
 #include "base/matriz.h"
+#include "base/publico.h"
 
 #include <cstdint>
 #include <string>
@@ -30,7 +31,7 @@ enum class TipoVariante {
     Imagen
 };
 
-class Variante {
+class TABLA_API Variante {
 public:
     Variante() noexcept = default; // empty
 

@@ -11,7 +11,9 @@ if(NOT TARGET tabla_spreadsheet)
   return()
 endif()
 target_link_libraries(tabla_spreadsheet PRIVATE ${CMAKE_DL_LIBS})
-target_compile_definitions(tabla_spreadsheet PRIVATE
+# Where the helper stands as seen from the installed library, which may have been moved with it.
+file(RELATIVE_PATH desde_lib ${CMAKE_INSTALL_FULL_LIBDIR} ${CMAKE_INSTALL_FULL_LIBEXECDIR}/${TABLA_LIBEXEC})
+target_compile_definitions(tabla_spreadsheet PRIVATE "TABLA_AUXILIAR_DESDE_LIB=\"${desde_lib}\""
   "TABLA_DIR_AUXILIAR=\"${CMAKE_INSTALL_FULL_LIBEXECDIR}/${TABLA_LIBEXEC}\"")
 # The front end includes only the seam platform/hoja_del_equipo.h; what serves it is linked here.
 if(TARGET tabla_qt)

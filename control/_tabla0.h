@@ -14,6 +14,7 @@
 
 #include "base/imagen.h"
 #include "base/matriz.h"
+#include "base/publico.h"
 #include "base/variante.h"
 #include "core/formato_columna.h"
 
@@ -25,7 +26,7 @@ namespace Qlt4_Tabla {
 
 // The leading underscore and the accents, double underscores and odd spellings below are published names
 // and kept, although C++ style would write them otherwise.
-class _Tabla0 { // NOLINT(bugprone-reserved-identifier)
+class TABLA_API _Tabla0 { // NOLINT(bugprone-reserved-identifier)
 public:
     virtual ~_Tabla0() = default;
 

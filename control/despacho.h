@@ -8,6 +8,7 @@
 // Main name: Despacho. The members as data: control/miembros.h. Values: base/variante.h.
 #pragma once
 
+#include "base/publico.h"
 #include "base/variante.h"
 #include "control/_tabla0.h"
 #include "control/miembros.h"
@@ -19,7 +20,7 @@
 
 namespace Qlt4_Tabla {
 
-class Despacho {
+class TABLA_API Despacho {
 public:
     /// The table must outlive it.
     explicit Despacho(_Tabla0& tabla) : tabla_(&tabla) {}

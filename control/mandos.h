@@ -5,6 +5,7 @@
 // No error leaves a call: it is shown in a message box, "Tabla Tablero - Error nº 9: ...".
 #pragma once
 
+#include "base/publico.h"
 #include "base/teclas.h"
 #include "control/menus.h"
 #include "core/elementos_menu.h"
@@ -22,7 +23,7 @@ namespace Qlt4_Tabla {
 
 enum class Boton { Izquierdo, Derecho, Central };
 
-class Mandos {
+class TABLA_API Mandos {
 public:
     Mandos(EstadoTabla& e, EditorCelda& editor, Navegacion& navegacion);
 

@@ -8,6 +8,7 @@
 //   tabla.TextMatrix(1, 1, "12.5");             // the cell holds 12.500
 #pragma once
 
+#include "base/publico.h"
 #include "control/_tabla0.h"
 #include "control/mandos.h"
 #include "core/estado_tabla.h"
@@ -20,7 +21,7 @@
 
 namespace Qlt4_Tabla {
 
-class Tabla0 final : public _Tabla0 {
+class TABLA_API Tabla0 final : public _Tabla0 {
 public:
     /// Ready to use after construction. The seams and the event sink must outlive it.
     Tabla0(const Plataforma& plataforma, __Tabla0& eventos);

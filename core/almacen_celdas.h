@@ -13,6 +13,8 @@
 // Without memory: std::bad_alloc; a call for one cell or for the counts has then changed nothing.
 #pragma once
 
+#include "base/publico.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -38,7 +40,7 @@ struct FilasCambiadas {
     }
 };
 
-class AlmacenCeldas {
+class TABLA_API AlmacenCeldas {
 public:
     AlmacenCeldas();
     ~AlmacenCeldas();

@@ -3,6 +3,8 @@
 // The tree (order, shortcuts, commands) is data of the editing folder; front ends mirror both.
 #pragma once
 
+#include "base/publico.h"
+
 #include <array>
 #include <cstddef>
 #include <string>
@@ -50,7 +52,7 @@ struct EstadoOpcion {
     bool marcada = false;
 };
 
-class EstadoMenus {
+class TABLA_API EstadoMenus {
 public:
     /// Every item visible, enabled, unmarked, with its design caption.
     EstadoMenus();

@@ -4,6 +4,7 @@
 // it. Two tables share nothing.
 #pragma once
 
+#include "base/publico.h"
 #include "core/estado_menus.h"
 #include "core/etiquetas.h"
 #include "core/formato_columna.h"
@@ -21,7 +22,7 @@
 
 namespace Qlt4_Tabla {
 
-struct EstadoTabla {
+struct TABLA_API EstadoTabla {
     EstadoTabla(const Plataforma& p, __Tabla0& e)
         : plataforma(p), eventos(e), tablero(p.vista), revoca(p.pasos) {}
 

@@ -5,6 +5,7 @@
 // run in the nearest marked column to its left. The header row merges with nothing.
 #pragma once
 
+#include "base/publico.h"
 #include "core/tablero.h"
 
 namespace Qlt4_Tabla {
@@ -18,6 +19,6 @@ struct Tramo {
 
 /// The run that the cell belongs to, looked for only between rows `primera` and `ultima` (the visible
 /// ones): cost grows with them, not with the table. A cell that merges with nothing is its own run.
-[[nodiscard]] Tramo tramo_fundido(const Tablero& t, int fila, int col, int primera, int ultima);
+[[nodiscard]] TABLA_API Tramo tramo_fundido(const Tablero& t, int fila, int col, int primera, int ultima);
 
 } // namespace Qlt4_Tabla

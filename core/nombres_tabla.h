@@ -4,12 +4,14 @@
 // Fields: 1 title (characters 1-40), 2 subtitle (41-70), 3 extension pattern (71-75), 4 reserved (77-78).
 #pragma once
 
+#include "base/publico.h"
+
 #include <string>
 #include <string_view>
 
 namespace Qlt4_Tabla {
 
-class NombresTabla {
+class TABLA_API NombresTabla {
 public:
     /// 100 blanks.
     NombresTabla();

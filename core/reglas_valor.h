@@ -6,6 +6,8 @@
 // Filtra_Tecla_Tablero. Underneath: base/numeros.h.
 #pragma once
 
+#include "base/publico.h"
+
 #include <string>
 #include <string_view>
 
@@ -14,7 +16,7 @@ namespace Qlt4_Tabla {
 // The number a cell text begins with, its first comma read as a point (Val says the rest):
 // "1,5" is 1.5, "1.234,5" is 1.234, "12.5 m" is 12.5, "abc" is 0. Beyond the range of a double: 0.
 // Always finite.
-double Valor_Numerico(std::string_view texto);
+TABLA_API double Valor_Numerico(std::string_view texto);
 
 // A number text with `decimales` decimals, at most 15: its number by Valor_Numerico, written by
 // formato_fijo. With 0 decimals or less the text stays as it came ("2.5" stays "2.5").
@@ -22,22 +24,22 @@ double Valor_Numerico(std::string_view texto);
 // front, so that numbers of the same `ancho` and `decimales` stand with their points in line.
 // The flag ComaDecimal is no business of this function: the control, which owns it, refreshes it
 // whenever it has a number displayed.
-std::string Formato_Numero(std::string_view texto, int ancho, int decimales);
+TABLA_API std::string Formato_Numero(std::string_view texto, int ancho, int decimales);
 
 // The same into `destino`, whose old contents are dropped and whose memory is used again: for
 // columns of many rows. `texto` must not lie inside `destino`.
-void Formato_Numero(std::string_view texto, int ancho, int decimales, std::string& destino);
+TABLA_API void Formato_Numero(std::string_view texto, int ancho, int decimales, std::string& destino);
 
 // The same as Formato_Numero(numero_a_texto(x), ancho, decimales), without the way over the text.
 // Error 6 when x is not finite.
-std::string Formato_Numero(double x, int ancho, int decimales);
-void Formato_Numero(double x, int ancho, int decimales, std::string& destino);
+TABLA_API std::string Formato_Numero(double x, int ancho, int decimales);
+TABLA_API void Formato_Numero(double x, int ancho, int decimales, std::string& destino);
 
 // The text with its first "." as ",".
-std::string Punto_a_Coma(std::string_view texto);
+TABLA_API std::string Punto_a_Coma(std::string_view texto);
 
 // The text with its first "," as ".".
-std::string Coma_a_Punto(std::string_view texto);
+TABLA_API std::string Coma_a_Punto(std::string_view texto);
 
 struct ResultadoFiltro {
     int KeyAscii = 0; // 0: the key is dropped
@@ -52,12 +54,12 @@ struct ResultadoFiltro {
 // an empty box and else is put in front of a text without "-"; "+" is never typed, but takes the
 // first character away from a text that is not above 0, also from "0" and "abc" (kept so). With
 // `signos` "+" both signs do nothing. Every other code is dropped.
-ResultadoFiltro Filtra_Tecla(
+TABLA_API ResultadoFiltro Filtra_Tecla(
     int KeyAscii, std::string_view signos, bool decimales, std::string_view texto_casilla);
 
 // Filter of the first key typed on a closed numeric cell; the code, or 0 for a dropped key. Digits,
 // "-" (also in columns without negative numbers), Backspace, codes of 0 or less and above 255 pass,
 // "." where `decimales`; every other code is dropped.
-int Filtra_Tecla_Tablero(int KeyAscii, bool decimales) noexcept;
+TABLA_API int Filtra_Tecla_Tablero(int KeyAscii, bool decimales) noexcept;
 
 } // namespace Qlt4_Tabla

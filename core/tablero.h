@@ -11,6 +11,7 @@
 #pragma once
 
 #include "base/imagen.h"
+#include "base/publico.h"
 #include "core/almacen_celdas.h"
 #include "core/avisos_unidos.h"
 #include "core/imagenes_celdas.h"
@@ -50,7 +51,7 @@ struct Bloque {
     friend constexpr bool operator==(const Bloque&, const Bloque&) = default;
 };
 
-class Tablero {
+class TABLA_API Tablero {
 public:
     /// No rows, no columns, current cell (0, 0).
     explicit Tablero(VistaTablero& vista);

@@ -6,6 +6,7 @@
 // Enter, Space (outside text columns) and any loss of focus commit.
 #pragma once
 
+#include "base/publico.h"
 #include "core/estado_tabla.h"
 
 #include <functional>
@@ -24,7 +25,7 @@ enum class MotivoFoco {
 // The editor counts as closed before a commit begins: what the host does in `CambiaCasilla` (a message box
 // that takes the focus, rows that go away, another edit) can therefore never commit a value twice. An
 // editor that the host opens there stays open, and the cursor does not advance.
-class EditorCelda {
+class TABLA_API EditorCelda {
 public:
     /// `avanza` moves the cursor on after Enter and Space.
     EditorCelda(EstadoTabla& e, std::function<void()> avanza) : e_(e), avanza_(std::move(avanza)) {}

@@ -6,13 +6,14 @@
 // scrolls only when it is dragged outside the window.
 #pragma once
 
+#include "base/publico.h"
 #include "base/teclas.h"
 #include "core/estado_tabla.h"
 #include "core/geometria.h"
 
 namespace Qlt4_Tabla {
 
-class Navegacion {
+class TABLA_API Navegacion {
 public:
     explicit Navegacion(EstadoTabla& e) : e_(e) {}
 

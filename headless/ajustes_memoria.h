@@ -3,6 +3,7 @@
 // "ajuste application|section|key=value"; reading leaves no line.
 #pragma once
 
+#include "base/publico.h"
 #include "headless/registro.h"
 #include "platform/ajustes.h"
 
@@ -15,7 +16,7 @@
 
 namespace Qlt4_Tabla {
 
-class AjustesMemoria final : public Ajustes {
+class TABLA_API AjustesMemoria final : public Ajustes {
 public:
     explicit AjustesMemoria(Registro& registro) : registro_(&registro) {}
 

@@ -10,6 +10,7 @@
 // A user that leaves it open, or none, cancels it.
 #pragma once
 
+#include "base/publico.h"
 #include "headless/registro.h"
 #include "platform/dialogo_color.h"
 
@@ -21,7 +22,7 @@
 
 namespace Qlt4_Tabla {
 
-class DialogoColorMemoria final : public DialogoColor {
+class TABLA_API DialogoColorMemoria final : public DialogoColor {
 public:
     explicit DialogoColorMemoria(Registro& registro) : registro_(&registro) {}
 

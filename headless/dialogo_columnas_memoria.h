@@ -12,6 +12,7 @@
 // A user that leaves it open, or none, leaves it by "Salir".
 #pragma once
 
+#include "base/publico.h"
 #include "headless/registro.h"
 #include "platform/dialogo_columnas.h"
 
@@ -22,7 +23,7 @@
 
 namespace Qlt4_Tabla {
 
-class DialogoColumnasMemoria final : public DialogoColumnas {
+class TABLA_API DialogoColumnasMemoria final : public DialogoColumnas {
 public:
     explicit DialogoColumnasMemoria(Registro& registro) : registro_(&registro) {}
 

@@ -4,6 +4,7 @@
 // user cancels. `movido_a` says where the user drags the dialog.
 #pragma once
 
+#include "base/publico.h"
 #include "headless/registro.h"
 #include "platform/dialogo_fichero.h"
 
@@ -16,7 +17,7 @@
 
 namespace Qlt4_Tabla {
 
-class DialogoFicheroMemoria final : public DialogoFichero {
+class TABLA_API DialogoFicheroMemoria final : public DialogoFichero {
 public:
     explicit DialogoFicheroMemoria(Registro& registro) : registro_(&registro) {}
 

@@ -3,6 +3,7 @@
 // caret, selection, place and visibility, and offer what a user does to them.
 #pragma once
 
+#include "base/publico.h"
 #include "headless/foco_memoria.h"
 #include "platform/caja_texto.h"
 #include "platform/lista_desplegable.h"
@@ -15,7 +16,7 @@
 
 namespace Qlt4_Tabla {
 
-class CajaTextoMemoria final : public CajaTexto {
+class TABLA_API CajaTextoMemoria final : public CajaTexto {
 public:
     explicit CajaTextoMemoria(FocoMemoria& foco) : foco_(&foco) {}
 
@@ -56,7 +57,7 @@ private:
     bool visible_ = false;
 };
 
-class ListaMemoria final : public ListaDesplegable {
+class TABLA_API ListaMemoria final : public ListaDesplegable {
 public:
     explicit ListaMemoria(FocoMemoria& foco) : foco_(&foco) {}
 

@@ -5,6 +5,7 @@
 // is written in place, and what stood there is put back after an error.
 #pragma once
 
+#include "base/publico.h"
 #include "platform/ficheros.h"
 
 #include <filesystem>
@@ -13,7 +14,7 @@
 
 namespace Qlt4_Tabla {
 
-class FicherosDisco : public Ficheros {
+class TABLA_API FicherosDisco : public Ficheros {
 public:
     [[nodiscard]] Bytes lee(std::string_view nombre) const override;
     void escribe_al_inicio(std::string_view nombre, std::string_view bytes) override;

@@ -5,6 +5,7 @@
 // the current folder, which is always there.
 #pragma once
 
+#include "base/publico.h"
 #include "platform/ficheros.h"
 
 #include <cstddef>
@@ -16,7 +17,7 @@
 
 namespace Qlt4_Tabla {
 
-class FicherosMemoria final : public Ficheros {
+class TABLA_API FicherosMemoria final : public Ficheros {
 public:
     /// Bytes written in one step.
     static constexpr std::size_t PIEZA = 64;

@@ -3,13 +3,15 @@
 // list report that they lost it, also when the table itself hid them.
 #pragma once
 
+#include "base/publico.h"
+
 #include <functional>
 
 namespace Qlt4_Tabla {
 
 enum class Foco { Nadie, Tablero, Casilla, Lista };
 
-class FocoMemoria {
+class TABLA_API FocoMemoria {
 public:
     /// Called when the box or the list loses the focus; the new owner already has it.
     std::function<void()> casilla_pierde;

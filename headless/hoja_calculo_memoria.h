@@ -4,6 +4,7 @@
 // "hoja muestra", "hoja suelta"; a call that fails is recorded first.
 #pragma once
 
+#include "base/publico.h"
 #include "headless/registro.h"
 #include "platform/hoja_calculo.h"
 
@@ -15,7 +16,7 @@
 
 namespace Qlt4_Tabla {
 
-class HojaCalculoMemoria final : public HojaCalculo {
+class TABLA_API HojaCalculoMemoria final : public HojaCalculo {
 public:
     explicit HojaCalculoMemoria(Registro& registro) : registro_(&registro) {}
 

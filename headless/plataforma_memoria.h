@@ -11,6 +11,7 @@
 #pragma once
 
 #include "base/imagen.h"
+#include "base/publico.h"
 #include "headless/ajustes_memoria.h"
 #include "headless/dialogo_color_memoria.h"
 #include "headless/dialogo_columnas_memoria.h"
@@ -39,7 +40,7 @@
 namespace Qlt4_Tabla {
 
 /// Message boxes as lines of the record; answers are taken from the queue, else the box is closed.
-class MensajesMemoria final : public Mensajes {
+class TABLA_API MensajesMemoria final : public Mensajes {
 public:
     struct Visto {
         std::string texto;
@@ -63,7 +64,7 @@ private:
     Registro* registro_;
 };
 
-class MarcoMemoria final : public Marco {
+class TABLA_API MarcoMemoria final : public Marco {
 public:
     MarcoMemoria(Registro& registro, FocoMemoria& foco) : registro_(&registro), foco_(&foco) {}
 
@@ -98,7 +99,7 @@ private:
     float alto_ = 2000;
 };
 
-class SeparadorMemoria final : public SeparadorDecimal {
+class TABLA_API SeparadorMemoria final : public SeparadorDecimal {
 public:
     bool coma = false;
     mutable int preguntas = 0; ///< how often it was asked
@@ -110,7 +111,7 @@ public:
 };
 
 /// Counts capture points; keeps no step.
-class PasosMemoria final : public AlmacenPasos {
+class TABLA_API PasosMemoria final : public AlmacenPasos {
 public:
     explicit PasosMemoria(Registro& registro) : registro_(&registro) {}
 
@@ -126,7 +127,7 @@ private:
 
 /// Values by key. `falla` makes every later access raise that error (0: none again), `falla_en` only the
 /// accesses to one key.
-class BolsaMemoria final : public BolsaPropiedades {
+class TABLA_API BolsaMemoria final : public BolsaPropiedades {
 public:
     std::map<std::string, Variante, std::less<>> valores;
     mutable std::vector<std::string> claves; ///< keys in the order they were written or read
@@ -145,7 +146,7 @@ private:
 };
 
 /// The host's event sink. `al_suceder` runs inside each event: a host that answers it at once.
-class EventosMemoria final : public __Tabla0 {
+class TABLA_API EventosMemoria final : public __Tabla0 {
 public:
     explicit EventosMemoria(Registro& registro) : registro_(&registro) {}
 
@@ -166,7 +167,7 @@ private:
 };
 
 /// A picture that is only a name.
-class ImagenMemoria final : public Imagen {
+class TABLA_API ImagenMemoria final : public Imagen {
 public:
     explicit ImagenMemoria(std::string nombre_imagen) : nombre(std::move(nombre_imagen)) {}
 
@@ -174,7 +175,7 @@ public:
 };
 
 /// One platform for one table; it stays where it is made, as its parts know one another.
-struct PlataformaMemoria {
+struct TABLA_API PlataformaMemoria {
     PlataformaMemoria() = default;
     PlataformaMemoria(const PlataformaMemoria&) = delete;
     PlataformaMemoria& operator=(const PlataformaMemoria&) = delete;

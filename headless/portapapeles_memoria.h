@@ -3,6 +3,7 @@
 // text is no line of a record.
 #pragma once
 
+#include "base/publico.h"
 #include "platform/portapapeles.h"
 
 #include <string>
@@ -10,7 +11,7 @@
 
 namespace Qlt4_Tabla {
 
-class PortapapelesMemoria final : public Portapapeles {
+class TABLA_API PortapapelesMemoria final : public Portapapeles {
 public:
     std::string texto; ///< in the table's own form: every line ends with CR LF
     int lecturas = 0;

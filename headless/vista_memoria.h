@@ -4,6 +4,7 @@
 //   "seleccion", "desplazada", "ancho 2", "alto -1", "fusion", "todo".
 #pragma once
 
+#include "base/publico.h"
 #include "platform/vista_tablero.h"
 
 #include <string>
@@ -11,7 +12,7 @@
 
 namespace Qlt4_Tabla {
 
-class VistaMemoria final : public VistaTablero {
+class TABLA_API VistaMemoria final : public VistaTablero {
 public:
     std::vector<std::string> avisos;
 

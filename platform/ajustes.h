@@ -5,6 +5,8 @@
 // keys that differ in a blank or in the case of a letter are different keys.
 #pragma once
 
+#include "base/publico.h"
+
 #include <optional>
 #include <span>
 #include <string>
@@ -18,7 +20,7 @@ struct Ajuste {
     std::string_view valor;
 };
 
-class Ajustes {
+class TABLA_API Ajustes {
 public:
     virtual ~Ajustes() = default;
 

@@ -3,9 +3,11 @@
 // ships keeps nothing, so undo does nothing, but each change already stands behind its capture point.
 #pragma once
 
+#include "base/publico.h"
+
 namespace Qlt4_Tabla {
 
-class AlmacenPasos {
+class TABLA_API AlmacenPasos {
 public:
     virtual ~AlmacenPasos() = default;
 

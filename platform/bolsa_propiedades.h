@@ -3,13 +3,14 @@
 // default on reading. Errors of the store are raised to the caller.
 #pragma once
 
+#include "base/publico.h"
 #include "base/variante.h"
 
 #include <string_view>
 
 namespace Qlt4_Tabla {
 
-class BolsaPropiedades {
+class TABLA_API BolsaPropiedades {
 public:
     virtual ~BolsaPropiedades() = default;
 

@@ -4,6 +4,7 @@
 // hides and reads the box, so that the rules run without a window.
 #pragma once
 
+#include "base/publico.h"
 #include "base/rectangulo.h"
 
 #include <string>
@@ -11,7 +12,7 @@
 
 namespace Qlt4_Tabla {
 
-class CajaTexto {
+class TABLA_API CajaTexto {
 public:
     virtual ~CajaTexto() = default;
 

@@ -4,6 +4,8 @@
 // Screen colours are 0x00BBGGRR, palette indices 0 to 255, places twips of the screen.
 #pragma once
 
+#include "base/publico.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -49,7 +51,7 @@ enum class BotonColor { PorCapa, Otros, Aceptar, Cancelar };
 /// A step from swatch to swatch.
 enum class PasoColor { Izquierda, Derecha, Arriba, Abajo };
 
-class ModeloColor {
+class TABLA_API ModeloColor {
 public:
     virtual ~ModeloColor() = default;
 
@@ -69,7 +71,7 @@ public:
     virtual void cerrado(float izquierda, float arriba) = 0;
 };
 
-class DialogoColor {
+class TABLA_API DialogoColor {
 public:
     virtual ~DialogoColor() = default;
 

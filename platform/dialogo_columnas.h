@@ -5,6 +5,7 @@
 // Lengths and places are twips: those of the grid in its own coordinates, those of the form on the screen.
 #pragma once
 
+#include "base/publico.h"
 #include "base/rectangulo.h"
 
 #include <optional>
@@ -29,7 +30,7 @@ struct CasillaColumnas {
 enum class PulsoRaton { Abajo, Arriba };
 
 /// What the grid of the form hears from the user.
-class RejillaColumnas {
+class TABLA_API RejillaColumnas {
 public:
     virtual ~RejillaColumnas() = default;
 
@@ -98,7 +99,7 @@ struct DistribucionColumnas {
 enum class OrdenColumnas { Aplicar, PorDefecto, Salir };
 enum class MarcaColumnas { Columna0, Etiqueta };
 
-class ModeloColumnas {
+class TABLA_API ModeloColumnas {
 public:
     virtual ~ModeloColumnas() = default;
 
@@ -113,7 +114,7 @@ public:
     virtual void cerrado(const SitioColumnas& sitio) = 0;
 };
 
-class DialogoColumnas {
+class TABLA_API DialogoColumnas {
 public:
     virtual ~DialogoColumnas() = default;
 

@@ -3,6 +3,8 @@
 // back what the user chose; the rules around it (texts, settings, names) are in files/.
 #pragma once
 
+#include "base/publico.h"
+
 #include <string>
 
 namespace Qlt4_Tabla {
@@ -29,7 +31,7 @@ struct RespuestaFichero {
     float arriba = 0;
 };
 
-class DialogoFichero {
+class TABLA_API DialogoFichero {
 public:
     virtual ~DialogoFichero() = default;
 

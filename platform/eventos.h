@@ -3,13 +3,15 @@
 // event comes after the change it tells of, on the thread that caused it.
 #pragma once
 
+#include "base/publico.h"
+
 #include <cstdint>
 
 namespace Qlt4_Tabla {
 
 // The name is published and hosts are bound to it, so it keeps its two leading underscores although
 // C++ reserves such names for the compiler.
-class __Tabla0 { // NOLINT(bugprone-reserved-identifier)
+class TABLA_API __Tabla0 { // NOLINT(bugprone-reserved-identifier)
 public:
     virtual ~__Tabla0() = default;
 

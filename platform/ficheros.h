@@ -6,6 +6,7 @@
 
 #include "base/bytes.h"
 #include "base/error.h"
+#include "base/publico.h"
 
 #include <string>
 #include <string_view>
@@ -14,7 +15,7 @@ namespace Qlt4_Tabla {
 
 // Errors of reading and writing: 53 no such file (reading only; none is made), 76 its folder is missing,
 // 75 a folder, no file or an empty name, 70 no permission, 61 disk full, 57 any other trouble.
-class Ficheros {
+class TABLA_API Ficheros {
 public:
     virtual ~Ficheros() = default;
 

@@ -8,12 +8,13 @@
 #pragma once
 
 #include "base/error.h"
+#include "base/publico.h"
 
 #include <string_view>
 
 namespace Qlt4_Tabla {
 
-class HojaCalculo {
+class TABLA_API HojaCalculo {
 public:
     virtual ~HojaCalculo() = default;
 

@@ -4,6 +4,7 @@
 // rules live in the in-cell editor.
 #pragma once
 
+#include "base/publico.h"
 #include "base/rectangulo.h"
 
 #include <span>
@@ -11,7 +12,7 @@
 
 namespace Qlt4_Tabla {
 
-class ListaDesplegable {
+class TABLA_API ListaDesplegable {
 public:
     virtual ~ListaDesplegable() = default;
 

@@ -4,6 +4,8 @@
 // that they changed. Sizes are twips.
 #pragma once
 
+#include "base/publico.h"
+
 #include <string_view>
 
 namespace Qlt4_Tabla {
@@ -14,7 +16,7 @@ enum class Menu { mn_raton, mn_cambio, Mn_Especial_puntos, mn_raton3 };
 /// Where a menu opens: at the mouse, at the current cell, or under the toolbar button "Propiedades".
 enum class DondeMenu { Raton, CeldaActual, BotonOpciones };
 
-class Marco {
+class TABLA_API Marco {
 public:
     virtual ~Marco() = default;
 

@@ -3,6 +3,8 @@
 // answers; the seam exists so that rules that ask can be run and tested without a person.
 #pragma once
 
+#include "base/publico.h"
+
 #include <string_view>
 
 namespace Qlt4_Tabla {
@@ -21,7 +23,7 @@ enum class Respuesta : int { Aceptar = 1, Si = 6, No = 7 };
 /// The mouse pointer over the whole screen.
 enum class Puntero : int { Normal = 0, RelojDeArena = 11 };
 
-class Mensajes {
+class TABLA_API Mensajes {
 public:
     virtual ~Mensajes() = default;
 

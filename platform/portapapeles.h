@@ -4,13 +4,14 @@
 #pragma once
 
 #include "base/error.h"
+#include "base/publico.h"
 
 #include <string>
 #include <string_view>
 
 namespace Qlt4_Tabla {
 
-class Portapapeles {
+class TABLA_API Portapapeles {
 public:
     virtual ~Portapapeles() = default;
 

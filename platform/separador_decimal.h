@@ -3,9 +3,11 @@
 // because a user may change the setting while the program runs.
 #pragma once
 
+#include "base/publico.h"
+
 namespace Qlt4_Tabla {
 
-class SeparadorDecimal {
+class TABLA_API SeparadorDecimal {
 public:
     virtual ~SeparadorDecimal() = default;
 

@@ -4,9 +4,11 @@
 // two paintings; while redrawing is off none comes, and one joined set comes when it is on again.
 #pragma once
 
+#include "base/publico.h"
+
 namespace Qlt4_Tabla {
 
-class VistaTablero {
+class TABLA_API VistaTablero {
 public:
     virtual ~VistaTablero() = default;
 

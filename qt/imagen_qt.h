@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/imagen.h"
+#include "base/publico.h"
 
 #include <QImage>
 
@@ -11,7 +12,7 @@
 
 namespace Qlt4_Tabla {
 
-class ImagenQt final : public Imagen {
+class TABLA_API ImagenQt final : public Imagen {
 public:
     explicit ImagenQt(QImage imagen) : imagen_(std::move(imagen)) {}
 

@@ -108,15 +108,26 @@ void PuertosQt::todo_cambiado() {
 
 // --- Marco ---
 
-float PuertosQt::ancho() const { return static_cast<float>(Unidades(widget_).twips_x(widget_.width())); }
+// A size given in twips comes back as given while the window still has the pixels it became: 5000 must not
+// become 4995 in a host's form.
+float PuertosQt::ancho() const {
+    const Unidades u(widget_);
+    if (u.px_x(static_cast<int>(ancho_dado_)) == widget_.width()) return ancho_dado_;
+    return static_cast<float>(u.twips_x(widget_.width()));
+}
 
-float PuertosQt::alto() const { return static_cast<float>(Unidades(widget_).twips_y(widget_.height())); }
+float PuertosQt::alto() const {
+    const Unidades u(widget_);
+    if (u.px_y(static_cast<int>(alto_dado_)) == widget_.height()) return alto_dado_;
+    return static_cast<float>(u.twips_y(widget_.height()));
+}
 
 void PuertosQt::pon_tamano(float ancho, float alto) {
     constexpr float MAXIMO = 1.0e7F; // far beyond any window; keeps the conversion in range
     const Unidades u(widget_);
-    widget_.resize(u.px_x(static_cast<int>(std::clamp(ancho, 0.0F, MAXIMO))),
-        u.px_y(static_cast<int>(std::clamp(alto, 0.0F, MAXIMO))));
+    ancho_dado_ = std::clamp(ancho, 0.0F, MAXIMO);
+    alto_dado_ = std::clamp(alto, 0.0F, MAXIMO);
+    widget_.resize(u.px_x(static_cast<int>(ancho_dado_)), u.px_y(static_cast<int>(alto_dado_)));
 }
 
 void PuertosQt::etiquetas_cambiadas() {

@@ -101,6 +101,8 @@ private:
     [[nodiscard]] QRect px(const Rectangulo& r) const;
 
     TablaWidget& widget_;
+    float ancho_dado_ = -1; // twips, as the host gave them
+    float alto_dado_ = -1;
     QPointer<VistaRejilla> vista_;
     QPointer<Casilla> casilla_;
     QPointer<ListaCelda> cob_lista_;

@@ -11,6 +11,7 @@
 // All calls on the user-interface thread. The widget owns the table; two widgets share nothing.
 #pragma once
 
+#include "base/publico.h"
 #ifndef Q_MOC_RUN // the scanner cannot read letters beyond ASCII in published names
 #include "control/tabla0.h"
 #endif
@@ -23,8 +24,17 @@
 
 namespace Qlt4_Tabla {
 
-class TablaWidget : public QWidget {
+class TABLA_API TablaWidget : public QWidget {
     Q_OBJECT
+
+    // What a form file keeps of the table, by its published keys. The last is written and not read back: the
+    // host sets the extension at run time.
+    Q_PROPERTY(int Cols READ Cols WRITE setCols)
+    Q_PROPERTY(int Rows READ Rows WRITE setRows)
+    Q_PROPERTY(int Widht READ Widht WRITE setWidht)
+    Q_PROPERTY(int Height READ Height WRITE setHeight)
+    Q_PROPERTY(QString A_FormatString READ A_FormatString WRITE setA_FormatString)
+    Q_PROPERTY(QString A_ExtensionFche READ A_ExtensionFche WRITE olvida_extension)
 
 public:
     /// A host may serve some seams itself, an undo store or its own message boxes: given the widget's, it
@@ -45,6 +55,22 @@ public:
     /// Where layouts and places of windows are kept from now on: a file of the host's own, or with an empty
     /// name the user's file for all tables.
     void pon_fichero_ajustes(const QString& fichero);
+
+    // The properties of the form file. A setter does what reading its key alone does (core/ciclo_vida.h): the
+    // counts are set on the grid as they are, sizes are twips, an empty string changes nothing. Counts below
+    // 1, and more cells than a grid may have: nothing.
+    [[nodiscard]] int Cols() const;
+    [[nodiscard]] int Rows() const;
+    [[nodiscard]] int Widht() const;
+    [[nodiscard]] int Height() const;
+    [[nodiscard]] QString A_FormatString() const;
+    [[nodiscard]] QString A_ExtensionFche() const;
+    void setCols(int n);
+    void setRows(int n);
+    void setWidht(int twips);
+    void setHeight(int twips);
+    void setA_FormatString(const QString& cadena);
+    void olvida_extension(const QString& extension);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;

@@ -54,6 +54,9 @@ std::vector<fs::path> carpetas_del_auxiliar() {
     for (const fs::path& modulo : modulos()) {
         carpetas.push_back(modulo.parent_path());
         carpetas.push_back(modulo.parent_path().parent_path() / "libexec" / "qlt4_tabla");
+#if defined(TABLA_AUXILIAR_DESDE_LIB)
+        carpetas.push_back((modulo.parent_path() / TABLA_AUXILIAR_DESDE_LIB).lexically_normal());
+#endif
     }
 #if defined(TABLA_DIR_AUXILIAR)
     carpetas.emplace_back(TABLA_DIR_AUXILIAR);

@@ -13,7 +13,7 @@ namespace Qlt4_Tabla {
 inline constexpr std::string_view NOMBRE_AUXILIAR = "tabla_hoja_libreoffice";
 
 /// The folders that are looked into, in their order: of each module (the running program, the shared library
-/// that holds this code) its own and ../libexec/qlt4_tabla; last the folder of the installation.
+/// that holds this code) its own, ../libexec/qlt4_tabla, and where an installed library has it; last the folder of the installation.
 [[nodiscard]] std::vector<std::filesystem::path> carpetas_del_auxiliar();
 
 /// The first folder that holds a program of that name gives the path; empty where none does.

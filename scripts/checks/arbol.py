@@ -1,8 +1,9 @@
 # SPDX-License-Identifier: MIT
 """The tree as the checks see it: the layers, the files, the string literals of a C++ source.
 
-Main names: RAIZ, capas, del_sistema, ficheros, carpeta_de, literales, acaba.
+Main names: RAIZ, capas, publicas, del_sistema, ficheros, carpeta_de, literales, acaba.
 """
+import functools
 import re
 import sys
 from pathlib import Path
@@ -13,11 +14,12 @@ AJENAS = {".git", "build", ".cache", "__pycache__"}
 CODIGO = {".h", ".cpp"}
 
 
+@functools.cache
 def capas():
     """The rows of capas.txt: {folder: set of folders it may include}."""
     filas = {}
     for linea in (RAIZ / "cmake/capas.txt").read_text(encoding="utf-8").splitlines():
-        fila = re.match(r"([a-z_]+) *:(.*)$", linea)
+        fila = re.match(r"([a-z_/]+) *:(.*)$", linea)
         if fila:
             filas[fila[1]] = set(fila[2].split())
     return filas
@@ -30,6 +32,16 @@ def cabeceras_contadas():
         fila = re.match(r"only ([a-z_]+) ([a-z_]+) *:(.*)$", linea)
         if fila:
             filas[fila[1], fila[2]] = set(fila[3].split())
+    return filas
+
+
+def publicas():
+    """The rows "public LIBRARY : headers" of capas.txt: {LIBRARY: its headers}."""
+    filas = {}
+    for linea in (RAIZ / "cmake/capas.txt").read_text(encoding="utf-8").splitlines():
+        fila = re.match(r"public (\w+) *:(.*)$", linea)
+        if fila:
+            filas[fila[1]] = fila[2].split()
     return filas
 
 
@@ -58,7 +70,9 @@ def ficheros(sufijos=None):
 
 
 def carpeta_de(ruta):
-    """"core" for core/x.h, "" for a file at the top."""
+    """"core" for core/x.h, the row's own name for a folder within one, "" for a file at the top."""
+    if "/".join(ruta.parts[:2]) in capas() and len(ruta.parts) > 2:
+        return "/".join(ruta.parts[:2])
     return ruta.parts[0] if len(ruta.parts) > 1 else ""
 
 

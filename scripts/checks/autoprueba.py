@@ -17,7 +17,7 @@ CABECERA = CARTEL + "#pragma once\n"
 BUENOS = {
     "base/a.h": CABECERA + "\n#include <string>\n",
     "base/a.cpp": CARTEL + '#include "base/a.h"\n\nconst char* clave() { return "Left"; }\n',
-    "core/b.h": CABECERA + '\n#include "base/a.h"\n',
+    "core/b.h": CABECERA + '\n#include "base/a.h"\n\nTABLA_API void b();\n',
     "core/textos.h": CABECERA + '\nconstexpr auto aviso = "Nº de filas de la tabla";\n',
     "editing/c.h": CABECERA + '\n#include "core/b.h"\n',
     "editing/c.cpp": CARTEL + '#include "editing/c.h"\n\nstatic_assert(true,\n    "told to the compiler");\n',
@@ -31,6 +31,7 @@ BUENOS = {
     "examples/e/principal.cpp": CARTEL + "// begin: uno\nt.Uno();\n// end: uno\nu->Sale();\n",
     "docs/guia_anfitrion.md": "`Uno` `Sale` [e](../examples/e/principal.cpp)\n"
         "<!-- examples/e/principal.cpp : uno -->\n```cpp\nt.Uno();\n```\n",
+    "qt/designer/g.h": CABECERA + '\n#include "qt/f.h"\n\n#include <QtUiPlugin/QDesignerCustomWidgetInterface>\n',
     "headless/s.cpp": CARTEL + "#include <unistd.h>\n",
     "tests/base/a.cpp": CARTEL + '#include "base/a.h"\n\n#include <gtest/gtest.h>\n',
 }
@@ -46,6 +47,11 @@ MALOS = [
     ("capas", "core/m.h", CABECERA + '#  include  "base/x.h"\n', "does not exist"),
     ("capas", "core/b.cpp", CARTEL + '#include "base/a.h"\n#include "core/b.h"\n', "comes first"),
     ("capas", "tests/base/m.cpp", CARTEL + '#include "core/b.h"\n', "tests/base may not include core/"),
+    ("capas", "qt/m.h", CABECERA + '#include "qt/designer/g.h"\n', "qt may not include qt/designer/"),
+    ("capas", "qt/designer/m.h", CABECERA + '#include "core/b.h"\n', "qt/designer may not include core/"),
+    ("capas", "core/m.h", CABECERA + "void f();\nTABLA_API void g();\n", "is not public"),
+    ("capas", "control/e.h", None, "public: control/e.h does not exist"),
+    ("textos", "qt/designer/m.cpp", CARTEL + 'auto x = f("Abrir la tabla");\n', "belongs into qt/designer/textos.h"),
     ("textos", "core/m.h", CABECERA + 'const char* x = "Número";\n', "belongs into core/textos.h"),
     ("textos", "qt/m.cpp", CARTEL + 'auto x = f("Abrir la tabla");\n', "belongs into qt/textos.h"),
     ("textos", "qt/m.cpp", CARTEL + 'auto x = R"(Abrir la tabla)";\n', "belongs into qt/textos.h"),
@@ -116,8 +122,8 @@ def arbol_bueno(dir_):
     # The tree's own exceptions and chief headers are not those of the small tree.
     planta(dir_, "scripts/checks/textos-permitidos.txt", "")
     capas = (dir_ / "cmake/capas.txt").read_text(encoding="utf-8")
-    filas = [l for l in capas.split("\n") if not l.startswith(("only ", "system "))]
-    planta(dir_, "cmake/capas.txt", "\n".join(filas) + "\nonly qt core : b.h\nsystem headless/s.cpp : unistd.h\n")
+    filas = [l for l in capas.split("\n") if not l.startswith(("only ", "system ", "public "))]
+    planta(dir_, "cmake/capas.txt", "\n".join(filas) + "\nonly qt core : b.h\npublic Nucleo : control/e.h\nsystem headless/s.cpp : unistd.h\n")
     for ruta, contenido in BUENOS.items():
         planta(dir_, ruta, contenido)
     nombres = [l.split(" ")[0] for l in filas if " :" in l and not l.startswith("#")]

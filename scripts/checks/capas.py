@@ -1,13 +1,15 @@
 # SPDX-License-Identifier: MIT
 """Checks every #include against the table of cmake/capas.txt.
 
-A folder includes itself and the folders of its row; qt/ also Qt; the rest only the C++ standard
-library, and a few named sources headers of the system. A source includes its own header first. Tests of a folder see what the folder sees, plus
-headless/, tests/ and GoogleTest.
+A folder includes itself and the folders of its row; qt/ and what is below it also Qt; the rest only the
+C++ standard library, and a few named sources headers of the system. A source includes its own header first.
+Tests of a folder see what the folder sees, plus headless/, tests/ and GoogleTest. What TABLA_API marks stands
+in a public header, or in one that those include; and those headers exist.
 """
 import re
+from pathlib import Path
 
-from arbol import CODIGO, RAIZ, acaba, cabeceras_contadas, capas, carpeta_de, del_sistema, ficheros
+from arbol import CODIGO, RAIZ, acaba, cabeceras_contadas, capas, carpeta_de, del_sistema, ficheros, publicas
 
 INCLUYE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*(?:"([^"]+)"|<([^>]+)>)', re.M)
 ESTANDAR = re.compile(r"^[a-z_0-9]+$")
@@ -24,12 +26,14 @@ def permisos(ruta):
     """(folder, folders it may include, Qt allowed, test headers allowed), or None: not checked."""
     carpeta = carpeta_de(ruta)
     if carpeta in FILAS:
-        return carpeta, FILAS[carpeta] | {carpeta}, carpeta == "qt", False
+        return carpeta, FILAS[carpeta] | {carpeta}, carpeta.split("/")[0] == "qt", False
     if carpeta != "tests":
         return None
+    if ruta.parts[1] == "consumidores":
+        return None  # hosts, as the examples are
     probada = ruta.parts[1] if len(ruta.parts) > 2 else ""
     todas = set(FILAS) | {"tests"}
-    if probada in ("qt", "guion_qt"):
+    if probada in ("qt", "guion_qt", "disenador"):
         return f"tests/{probada}", todas, True, True
     if probada == "tools":
         return "tests/tools", todas - {"qt"} | {"tools"}, False, True
@@ -56,14 +60,14 @@ def faltas_de(ruta):
         if nuestra and GENERADO.match(nuestra) and con_qt:
             continue
         if nuestra:
-            carpeta = nuestra.split("/")[0]
+            carpeta = carpeta_de(Path(nuestra))
             if "/" not in nuestra or ".." in nuestra:
                 yield f'{aqui} write "{carpeta_de(ruta)}/..." instead of "{nuestra}"'
             elif carpeta not in abiertas:
                 yield f"{aqui} {quien} may not include {carpeta}/ ({nuestra}); cmake/capas.txt says what it may"
             elif not (RAIZ / nuestra).exists():
                 yield f"{aqui} {nuestra} does not exist"
-            elif nuestra.split("/", 1)[1] not in CONTADAS.get((quien, carpeta), {nuestra.split("/", 1)[1]}):
+            elif (nombre := nuestra[len(carpeta) + 1:]) not in CONTADAS.get((quien, carpeta), {nombre}):
                 yield f"{aqui} {nuestra} is not one of the headers of {carpeta}/ that {quien} may include"
         elif fuera in DEL_SISTEMA.get(ruta.as_posix(), ()):
             continue
@@ -71,5 +75,27 @@ def faltas_de(ruta):
             yield f"{aqui} {quien} may not include <{fuera}>: only the standard library" + (", Qt" if con_qt else "")
 
 
+def alcanzadas(raices):
+    """The headers and all of ours that they include."""
+    vistas, pendientes = set(), list(raices)
+    while pendientes:
+        cabecera = pendientes.pop()
+        if cabecera not in vistas and (RAIZ / cabecera).exists():
+            vistas.add(cabecera)
+            pendientes += [p[1] for p in INCLUYE.finditer((RAIZ / cabecera).read_text(encoding="utf-8")) if p[1]]
+    return vistas
+
+
+def faltas_de_lo_publico(mirados):
+    raices = [cabecera for fila in publicas().values() for cabecera in fila]
+    yield from (f"cmake/capas.txt: public: {r} does not exist" for r in raices if not (RAIZ / r).exists())
+    instaladas = alcanzadas(raices)
+    for ruta in mirados:
+        marca = re.search(r"^(?![ \t]*(#|//)).*\bTABLA_API\b", (RAIZ / ruta).read_text(encoding="utf-8"), re.M)
+        if marca and carpeta_de(ruta) in FILAS and ruta.as_posix() not in instaladas:
+            yield f"{ruta}: marks names with TABLA_API and is not public (cmake/capas.txt)"
+
+
 mirados = [f for f in ficheros(CODIGO) if permisos(f)]
-acaba("layers", [falta for f in mirados for falta in faltas_de(f)], len(mirados))
+faltas = [falta for f in mirados for falta in faltas_de(f)]
+acaba("layers", faltas + list(faltas_de_lo_publico(mirados)), len(mirados))
