@@ -18,8 +18,8 @@ namespace Qlt4_Tabla {
 namespace {
 
 constexpr int maximas_cifras = 15;
-// Longer texts may lie near the smallest doubles, which hold fewer than 15 digits.
-constexpr std::size_t maximo_texto = 30;
+// Its digits fit into 64 bits, whatever they are, and its number is far from the smallest doubles.
+constexpr std::size_t maximo_texto = 19;
 
 static_assert(
     std::numeric_limits<double>::is_iec559 && std::numeric_limits<double>::digits10 == maximas_cifras,
@@ -39,6 +39,18 @@ std::uint64_t redondea(std::uint64_t cifras, int sobran) noexcept {
     if (sobran > maximas_cifras) return 0; // less than a tenth of the last place
     const std::uint64_t divisor = potencias[static_cast<std::size_t>(sobran)];
     return (cifras + divisor / 2) / divisor;
+}
+
+// Goes on with the digits that follow; where they end.
+const char* lee_cifras(const char* p, const char* fin, std::uint64_t& cifras) noexcept {
+    for (; p != fin && es_cifra(*p); ++p) cifras = cifras * 10 + static_cast<std::uint64_t>(*p - '0');
+    return p;
+}
+
+// The last `cuantas` digits of the number; what is in front of them.
+std::uint64_t pon_ultimas(std::uint64_t n, int cuantas, char* destino) noexcept {
+    for (char* p = destino + cuantas; p != destino; n /= 10) *--p = static_cast<char>('0' + n % 10);
+    return n;
 }
 
 char* pon_ceros(char* destino, std::ptrdiff_t cuantos) noexcept {
@@ -81,6 +93,31 @@ char* pon(char* destino, std::string_view texto) noexcept {
     return std::copy(texto.begin(), texto.end(), destino);
 }
 
+// escribe_fijo of a number whose digits do not reach down to its last decimal, however many zeros that takes.
+std::size_t escribe_con_ceros(const Decimal& numero, int decimales, char* destino) noexcept {
+    const std::ptrdiff_t ceros = decimales - numero.decimales;
+    // `texto` and the zeros are the number counted in units of its last decimal.
+    char memoria[maximas_cifras + 1];
+    const std::string_view texto = escribe_cifras(numero.cifras, memoria);
+    const auto tiene = static_cast<std::ptrdiff_t>(texto.size());
+    const std::ptrdiff_t enteras = tiene + ceros - decimales;
+    const auto corte = static_cast<std::size_t>(std::clamp<std::ptrdiff_t>(enteras, 0, tiene));
+
+    char* p = destino;
+    if (numero.negativo) *p++ = '-';
+    if (enteras <= 0) *p++ = '0';
+    p = pon(p, texto.substr(0, corte));
+    p = pon_ceros(p, enteras - tiene);
+    if (decimales > 0) {
+        *p++ = '.';
+        char* const fin = p + decimales;
+        p = pon_ceros(p, -enteras);
+        p = pon(p, texto.substr(corte));
+        p = pon_ceros(p, fin - p);
+    }
+    return static_cast<std::size_t>(p - destino);
+}
+
 } // namespace
 
 Decimal decimal_de_real(double x, int significativas) {
@@ -98,53 +135,66 @@ Decimal decimal_de_real(double x, int significativas) {
 }
 
 std::optional<Decimal> decimal_de_texto(std::string_view texto) noexcept {
-    if (texto.size() > maximo_texto) return std::nullopt;
-    Decimal numero;
-    bool hay_cifra = false;
-    bool hay_punto = false;
     const bool menos = !texto.empty() && texto.front() == '-';
-    for (const char c : texto.substr(menos ? 1 : 0)) {
-        if (es_cifra(c)) {
-            hay_cifra = true;
-            numero.cifras = numero.cifras * 10 + static_cast<std::uint64_t>(c - '0');
-            if (numero.cifras >= potencias[maximas_cifras]) return std::nullopt;
-            if (hay_punto) ++numero.decimales;
-        } else if ((c == '.' || c == ',') && !hay_punto) {
-            hay_punto = true;
-        } else {
-            return std::nullopt;
-        }
+    if (menos) texto.remove_prefix(1);
+    if (texto.size() > maximo_texto) return std::nullopt;
+    const char* const fin = texto.data() + texto.size();
+    std::uint64_t cifras = 0;
+    const char* p = lee_cifras(texto.data(), fin, cifras);
+    int decimales = 0;
+    std::ptrdiff_t signos = 0;
+    if (p != fin && (*p == '.' || *p == ',')) {
+        const char* const desde = p + 1;
+        p = lee_cifras(desde, fin, cifras);
+        decimales = static_cast<int>(p - desde);
+        signos = 1;
     }
-    if (!hay_cifra) return std::nullopt;
-    numero.negativo = menos && numero.cifras != 0;
-    return numero;
+    if (p != fin || p - texto.data() == signos) return std::nullopt;
+    for (; cifras >= potencias[maximas_cifras]; cifras /= 10, --decimales)
+        if (decimales == 0 || cifras % 10 != 0) return std::nullopt;
+    return Decimal{menos && cifras != 0, cifras, decimales};
+}
+
+// Each double is off by half a unit of its last place, and so is their sum. Of numbers with the same sign that
+// is less than half a unit of the fifteenth digit. Otherwise digits may cancel, and what is off stays: with
+// numbers below 10^6 it is less than half of the ninth decimal.
+std::optional<Decimal> suma_exacta(const Decimal& a, const Decimal& b) noexcept {
+    constexpr int maximos_decimales = 9;
+    constexpr int enteras_al_restar = maximas_cifras - maximos_decimales;
+    const int decimales = std::max(a.decimales, b.decimales);
+    if (std::min(a.decimales, b.decimales) < 0 || decimales > maximos_decimales) return std::nullopt;
+    const auto potencia = [](int n) { return potencias[static_cast<std::size_t>(n)]; };
+    const auto cabe = [&](const Decimal& n) {
+        return n.cifras < potencia(maximas_cifras - (decimales - n.decimales));
+    };
+    if (!cabe(a) || !cabe(b)) return std::nullopt;
+    const std::uint64_t x = a.cifras * potencia(decimales - a.decimales);
+    const std::uint64_t y = b.cifras * potencia(decimales - b.decimales);
+    if (a.negativo == b.negativo) {
+        if (x + y >= potencias[maximas_cifras]) return std::nullopt;
+        return Decimal{a.negativo, x + y, decimales};
+    }
+    if (std::max(x, y) >= potencia(enteras_al_restar + decimales)) return std::nullopt;
+    return Decimal{x == y ? false : (x > y ? a : b).negativo, x > y ? x - y : y - x, decimales};
 }
 
 std::size_t escribe_fijo(const Decimal& numero, int decimales, char* destino) noexcept {
-    std::uint64_t cifras = numero.cifras;
-    std::ptrdiff_t ceros = decimales - numero.decimales; // to the right of the digits
-    if (ceros < 0) {
-        cifras = redondea(cifras, static_cast<int>(-ceros));
-        ceros = 0;
-    }
-    // `texto` and the zeros are the number counted in units of its last decimal.
-    char memoria[maximas_cifras + 1];
-    const std::string_view texto = escribe_cifras(cifras, memoria);
-    const auto tiene = static_cast<std::ptrdiff_t>(texto.size());
-    const std::ptrdiff_t enteras = tiene + ceros - decimales;
-    const auto corte = static_cast<std::size_t>(std::clamp<std::ptrdiff_t>(enteras, 0, tiene));
-
+    const int ceros = decimales - numero.decimales; // to the right of the digits
+    if (ceros > 0 &&
+        !(ceros < maximas_cifras &&
+            numero.cifras < potencias[static_cast<std::size_t>(maximas_cifras - ceros)]))
+        return escribe_con_ceros(numero, decimales, destino);
+    // The number counted in units of its last decimal.
+    const std::uint64_t unidades = ceros < 0 ? redondea(numero.cifras, -ceros)
+                                             : numero.cifras * potencias[static_cast<std::size_t>(ceros)];
     char* p = destino;
     if (numero.negativo) *p++ = '-';
-    if (enteras <= 0) *p++ = '0';
-    p = pon(p, texto.substr(0, corte));
-    p = pon_ceros(p, enteras - tiene);
+    const std::uint64_t divisor = potencias[static_cast<std::size_t>(decimales)];
+    p = std::to_chars(p, p + maximas_cifras + 1, unidades / divisor).ptr;
     if (decimales > 0) {
         *p++ = '.';
-        char* const fin = p + decimales;
-        p = pon_ceros(p, -enteras);
-        p = pon(p, texto.substr(corte));
-        p = pon_ceros(p, fin - p);
+        pon_ultimas(unidades % divisor, decimales, p);
+        p += decimales;
     }
     return static_cast<std::size_t>(p - destino);
 }

@@ -2,8 +2,8 @@
 // A decimal number of at most 15 significant digits: what the texts of numbers show. Any such
 // decimal of ordinary size is unchanged by the way through a double and back to 15 digits, so one
 // taken straight from its text may be written without making the double.
-// Main names: Decimal, decimal_de_real, decimal_de_texto, escribe_fijo, escribe_numero.
-// For use by base/numeros.cpp and core/reglas_valor.cpp; others take base/numeros.h.
+// Main names: Decimal, decimal_de_real, decimal_de_texto, suma_exacta, escribe_fijo, escribe_numero.
+// For use by base/numeros.cpp and the value rules of core/; others take base/numeros.h.
 #pragma once
 
 #include <cstddef>
@@ -25,9 +25,13 @@ struct Decimal {
 Decimal decimal_de_real(double x, int significativas = 15);
 
 // The number a text is in its plainest form: a "-" at most, digits, a point or comma at most, in no
-// more than 30 characters and 15 digits behind the leading zeros. Nothing for any other text, though
-// it may be a number.
+// more than 19 characters behind the sign and 15 digits between the zeros around them. Nothing for any
+// other text, though it may be a number.
 std::optional<Decimal> decimal_de_texto(std::string_view texto) noexcept;
+
+// a + b where both have 0 to 9 decimals and the sum of their doubles is sure to show the same number with 9
+// decimals; else nothing.
+std::optional<Decimal> suma_exacta(const Decimal& a, const Decimal& b) noexcept;
 
 // formato_fijo of the number with `decimales` 0 to 15; the number of bytes written. `destino` has
 // capacidad_fijo bytes.

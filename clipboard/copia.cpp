@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -22,26 +23,55 @@ constexpr int MUESTRA = 64;
 /// ... and no more than this is asked for beforehand: a few long texts at the top must not ask for all memory.
 constexpr std::size_t MAX_RESERVA = std::size_t{1} << 28;
 
-void anade_con_coma(std::string& texto, std::string_view celda) {
-    const std::size_t desde = texto.size();
-    texto += celda;
-    if (celda.empty()) return;
-    if (void* punto = std::memchr(texto.data() + desde, '.', celda.size())) *static_cast<char*>(punto) = ',';
-}
+/// A line of the block; its memory is used again for the next one.
+class Linea {
+public:
+    Linea(FormaCelda forma, bool coma) : forma_(forma), coma_(coma) {}
 
-void anade_celda(std::string& texto, std::string_view celda, FormaCelda forma, bool coma) {
-    if (forma == FormaCelda::Vacia) return;
-    if (coma)
-        anade_con_coma(texto, celda);
-    else
-        texto += celda;
-    if (forma == FormaCelda::Doblada) anade_con_coma(texto, celda);
-}
+    /// One TAB between the cells, CR LF behind them.
+    [[nodiscard]] std::string_view de(std::span<const std::string_view> celdas) {
+        std::size_t bytes = 2 * celdas.size() + 1;
+        for (const std::string_view celda : celdas) bytes += 2 * celda.size();
+        if (linea_.size() < bytes) linea_.resize(bytes);
+        char* p = linea_.data();
+        for (const std::string_view celda : celdas) {
+            p = pon_celda(p, celda);
+            *p++ = '\t';
+        }
+        p[-1] = '\r';
+        *p++ = '\n';
+        return {linea_.data(), static_cast<std::size_t>(p - linea_.data())};
+    }
+
+private:
+    static char* pon(char* p, std::string_view celda) {
+        if (!celda.empty()) std::memcpy(p, celda.data(), celda.size());
+        return p + celda.size();
+    }
+
+    static char* pon_con_coma(char* p, std::string_view celda) {
+        char* const fin = pon(p, celda);
+        char* const punto = std::find(p, fin, '.');
+        if (punto != fin) *punto = ',';
+        return fin;
+    }
+
+    [[nodiscard]] char* pon_celda(char* p, std::string_view celda) const {
+        if (forma_ == FormaCelda::Vacia) return p;
+        p = coma_ ? pon_con_coma(p, celda) : pon(p, celda);
+        return forma_ == FormaCelda::Doblada ? pon_con_coma(p, celda) : p;
+    }
+
+    FormaCelda forma_;
+    bool coma_;
+    std::string linea_;
+};
 
 std::string bloque_en_texto(const Tablero& t, const Bloque& b, FormaCelda forma, bool coma) {
     std::string texto;
     if (b.col1 > b.col2) return texto;
     std::vector<std::string_view> celdas(static_cast<std::size_t>(b.col2 - b.col1) + 1);
+    Linea linea(forma, coma);
     for (int fila = b.fila1; fila <= b.fila2; ++fila) {
         if (fila - b.fila1 == MUESTRA) {
             const std::size_t por_fila = texto.size() / MUESTRA + 1;
@@ -49,12 +79,7 @@ std::string bloque_en_texto(const Tablero& t, const Bloque& b, FormaCelda forma,
             texto.reserve(std::min(por_fila * filas + por_fila * filas / 8, MAX_RESERVA));
         }
         if (fila < t.Rows() && b.col2 < t.Cols()) t.almacen().lee_fila(fila, b.col1, celdas);
-        anade_celda(texto, celdas.front(), forma, coma);
-        for (std::size_t i = 1; i < celdas.size(); ++i) {
-            texto += '\t';
-            anade_celda(texto, celdas[i], forma, coma);
-        }
-        texto += "\r\n";
+        texto += linea.de(celdas);
     }
     return texto;
 }

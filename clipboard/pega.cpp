@@ -51,13 +51,14 @@ public:
     /// The fields of the next line that have a column.
     const Campos& linea() {
         campos_.clear();
-        for (bool sigue = true; sigue;) {
-            const std::size_t fin = busca_separador(texto_, desde_);
+        std::size_t fin = busca_separador(texto_, desde_);
+        for (; fin < texto_.size() && texto_[fin] == '\t'; fin = busca_separador(texto_, desde_)) {
             toma_campo(fin);
-            sigue = fin < texto_.size() && texto_[fin] == '\t';
-            const bool doble = texto_.compare(fin, 2, "\r\n") == 0;
-            desde_ = std::min(fin + (doble ? 2 : 1), texto_.size());
+            desde_ = fin + 1;
         }
+        toma_campo(fin);
+        const bool doble = fin + 1 < texto_.size() && texto_[fin] == '\r' && texto_[fin + 1] == '\n';
+        desde_ = std::min(fin + (doble ? 2 : 1), texto_.size());
         return campos_;
     }
 
@@ -125,14 +126,14 @@ void refresca(EstadoTabla& e) {
 MedidasBloque mide_bloque(std::string_view texto) {
     MedidasBloque m;
     std::int64_t cuenta = 0;
-    for (std::size_t i = busca_separador(texto, 0); i < texto.size(); i = busca_separador(texto, i + 1)) {
+    recorre_separadores(texto, [&](char c) {
         ++cuenta;
-        if (texto[i] == '\t') continue;
+        if (c == '\t') return;
         m.maximo = std::max(m.maximo, cuenta);
-        if (texto[i] == '\r') continue;
+        if (c == '\r') return;
         ++m.lineas;
         cuenta = 0;
-    }
+    });
     return m;
 }
 

@@ -4,6 +4,7 @@
 
 #include "core/indice_trozos.h"
 #include "core/textos_largos.h"
+#include "core/tramos_filas.h"
 
 #include <algorithm>
 #include <array>
@@ -32,45 +33,13 @@ std::uint32_t asa_de(std::string_view bytes) {
 
 bool es_largo(std::string_view texto) { return texto.size() >= LARGO; }
 
-// The rows that may lack their numbers: from `desde` on, before `hasta`. All others are numbered, but for
-// row 0 with a text.
-struct SinNumero {
-    int desde = 0;
-    int hasta = 0;
-
-    void anade(int a, int b) {
-        const bool nada = desde == hasta;
-        desde = nada ? a : std::min(desde, a);
-        hasta = nada ? b : std::max(hasta, b);
-    }
-
-    void inserta(int fila, int n) {
-        if (desde >= fila) desde += n;
-        if (hasta > fila) hasta += n;
-        anade(fila, fila == 0 ? n + 1 : fila + n); // what was row 0 may be a data row now
-    }
-
-    void borra(std::span<const int> filas) {
-        const auto quitadas_antes = [filas](int fila) {
-            return static_cast<int>(std::lower_bound(filas.begin(), filas.end(), fila) - filas.begin());
-        };
-        desde -= quitadas_antes(desde);
-        hasta -= quitadas_antes(hasta);
-    }
-
-    void borra(int fila, int n) {
-        const auto queda = [fila, n](int f) { return f <= fila ? f : std::max(fila, f - n); };
-        desde = queda(desde);
-        hasta = queda(hasta);
-    }
-};
-
 } // namespace
 
 struct AlmacenCeldas::Interior {
     IndiceTrozos indice;
     TextosLargos largos;
-    SinNumero sin_numero;
+    // The rows that may lack their numbers; all others are numbered, but for row 0 with a text.
+    TramosFilas sin_numero;
     mutable CifrasFila cifras{}; // of the row number given last
     enum class Altos { No, Si, Quiza };
     mutable Altos altos = Altos::No; // any row with a height of its own?
@@ -100,6 +69,7 @@ struct AlmacenCeldas::Interior {
     bool escribe_fila(int fila, int col, std::span<const std::string_view> textos);
     [[nodiscard]] std::span<const std::uint8_t> fila_con(
         std::span<const std::uint8_t> vieja, int col, std::span<const std::string_view> textos);
+    void numera(int desde, int hasta, FilasCambiadas& cambiadas);
     bool numera(Trozo& t, int i, int fila);
     void suelta_largos(int desde, int hasta, int col1, int col2);
     [[nodiscard]] std::optional<std::int32_t> adorno(Adorno tipo, int fila, int col) const;
@@ -125,7 +95,7 @@ void AlmacenCeldas::pon_columnas(int n) {
     if (n < columnas_) {
         yo_->suelta_largos(0, filas_ - 1, n, columnas_);
         yo_->indice.recorre(0, filas_ - 1, [n](Trozo& t, int, int, int) { t.quita_columnas(n); });
-        if (n == 0) yo_->sin_numero = {0, filas_};
+        if (n == 0) yo_->sin_numero.anade(0, filas_);
     }
     columnas_ = n;
 }
@@ -165,6 +135,7 @@ std::string_view AlmacenCeldas::Interior::texto_no_guardado(
 bool AlmacenCeldas::Interior::escribe(int fila, int col, std::string_view nuevo) {
     if (col == 0) return escribe_numero(fila, nuevo);
     const LugarFila l = indice.busca(fila);
+    if (l.trozo->anexa(l.i, col, nuevo)) return true;
     const CeldaGuardada vieja = l.trozo->celda(l.i, col);
     if (texto(vieja, fila, cifras) == nuevo) return false;
     guarda(fila, col, l, vieja, nuevo);
@@ -262,12 +233,13 @@ std::span<const std::uint8_t> AlmacenCeldas::Interior::fila_con(
     std::size_t n = std::max(col2, tenia);
     std::size_t bytes = CABECERA + n + bytes_hasta(c.columnas);
     for (const std::string_view t : textos) bytes += t.size();
-    fila_nueva.assign(bytes, 0);
+    if (fila_nueva.size() < bytes) fila_nueva.resize(bytes);
     std::uint8_t* const nuevas = fila_nueva.data() + CABECERA;
     std::copy_n(longitudes, antes, nuevas);
     std::transform(textos.begin(), textos.end(), nuevas + col1,
         [](std::string_view t) { return static_cast<std::uint8_t>(t.size()); });
     std::copy(longitudes + despues, longitudes + tenia, nuevas + col2);
+    if (tenia < col1) std::fill(nuevas + tenia, nuevas + col1, std::uint8_t{0});
     while (n != 0 && nuevas[n - 1] == 0) --n;
 
     std::uint8_t* p = std::copy_n(viejos, bytes_hasta(antes), nuevas + n);
@@ -297,6 +269,7 @@ void AlmacenCeldas::inserta(int fila, int n) {
     if (n <= 0) return;
     yo_->indice.inserta(fila, n);
     yo_->sin_numero.inserta(fila, n);
+    if (fila == 0) yo_->sin_numero.anade(n, n + 1); // what was row 0 may be a data row now
     filas_ += n;
 }
 
@@ -334,12 +307,18 @@ void AlmacenCeldas::Interior::suelta_largos(int desde, int hasta, int col1, int 
 }
 
 FilasCambiadas AlmacenCeldas::numera() {
-    Interior& yo = *yo_;
     FilasCambiadas cambiadas;
-    const int desde = yo.sin_numero.desde;
-    const int hasta = yo.sin_numero.hasta - 1;
-    if (desde > hasta || columnas_ == 0) return cambiadas;
-    yo.indice.recorre(desde, hasta, [&](Trozo& t, int i1, int i2, int primera) {
+    if (columnas_ == 0) return cambiadas;
+    for (const auto [desde, hasta] : yo_->sin_numero.tramos()) {
+        const int ultima = std::min(hasta, filas_) - 1;
+        if (desde <= ultima) yo_->numera(desde, ultima, cambiadas);
+    }
+    yo_->sin_numero.vacia();
+    return cambiadas;
+}
+
+void AlmacenCeldas::Interior::numera(int desde, int hasta, FilasCambiadas& cambiadas) {
+    indice.recorre(desde, hasta, [&](Trozo& t, int i1, int i2, int primera) {
         if (t.sin_textos()) {
             const int desde_fila = std::max(primera, 1);
             if (!t.numeradas() && primera + t.filas() > desde_fila)
@@ -347,11 +326,9 @@ FilasCambiadas AlmacenCeldas::numera() {
             return t.numera_todas();
         }
         for (int i = i1; i <= i2; ++i)
-            if (yo.numera(t, i, primera + i)) cambiadas.extiende(primera + i, primera + i);
+            if (numera(t, i, primera + i)) cambiadas.extiende(primera + i, primera + i);
     });
-    yo.indice.junta_vacios(desde, hasta);
-    yo.sin_numero = {};
-    return cambiadas;
+    indice.junta_vacios(desde, hasta);
 }
 
 // A packed row takes its number; row 0 only where it has no text, to show it if it ever moves down. True

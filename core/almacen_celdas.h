@@ -79,8 +79,8 @@ public:
     void borra(int fila, int n);
     /// Removes all rows whose index (ascending, no doubles) is in `filas`, in one pass over the chunks.
     void borra_varias(std::span<const int> filas);
-    /// Gives every row from 1 on its own number as text of column 0. Cost: only the rows between the first
-    /// and the last that were made or overwritten since the last call.
+    /// Gives every row from 1 on its own number as text of column 0. Cost: the rows that
+    /// were made or overwritten since the last call, and those between them where they are in many places.
     FilasCambiadas numera();
 
     /// Text colour of a cell, 0x00BBGGRR; 0 when never set.

@@ -18,8 +18,9 @@ bool AvisosUnidos::une(Clase clase, int indice) {
 }
 
 void AvisosUnidos::celdas_cambiadas(int fila1, int col1, int fila2, int col2) {
+    if (!retenidos_) return vista_->celdas_cambiadas(fila1, col1, fila2, col2);
     const bool primera = clase_ == Clase::Nada;
-    if (!une(Clase::Celdas, 0)) return vista_->celdas_cambiadas(fila1, col1, fila2, col2);
+    static_cast<void>(une(Clase::Celdas, 0));
     fila1_ = primera ? fila1 : std::min(fila1_, fila1);
     col1_ = primera ? col1 : std::min(col1_, col1);
     fila2_ = primera ? fila2 : std::max(fila2_, fila2);

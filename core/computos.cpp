@@ -2,6 +2,7 @@
 // Column computations: one pass over the result column, the others read beside it.
 #include "core/computos.h"
 
+#include "base/decimal.h"
 #include "base/error.h"
 #include "base/numeros.h"
 #include "core/formatos.h"
@@ -10,6 +11,7 @@
 #include "core/textos.h"
 
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -61,14 +63,39 @@ void escribe_columna(EstadoTabla& e, int col, const Resultado& resultado) {
     });
 }
 
-template <class Operacion>
-void opera(EstadoTabla& e, std::int32_t colA, std::int32_t colB, std::int32_t colResul, Operacion operacion) {
-    Tablero& t = e.tablero;
+enum class Operacion { Suma, Resta };
+
+// The result where plain digits suffice for it.
+std::optional<Decimal> opera_decimales(std::string_view a, Operacion operacion, std::string_view b) {
+    const std::optional<Decimal> x = decimal_de_texto(a);
+    std::optional<Decimal> y = decimal_de_texto(b);
+    if (!x || !y) return std::nullopt;
+    if (operacion == Operacion::Resta) y->negativo = !y->negativo && y->cifras != 0;
+    return suma_exacta(*x, *y);
+}
+
+// The result of two texts; the short way over their digits gives the same as their numbers do.
+void opera(std::string_view a, Operacion operacion, std::string_view b, std::string& nuevo) {
+    static_assert(DECIMALES_RESULTADO == 9, "what suma_exacta is sure of");
+    if (const std::optional<Decimal> resultado = opera_decimales(a, operacion, b)) {
+        char cifras[capacidad_fijo];
+        nuevo.assign(cifras, escribe_fijo(*resultado, DECIMALES_RESULTADO, cifras));
+        return;
+    }
+    const double x = Valor_Numerico(a);
+    const double y = Valor_Numerico(b);
+    Formato_Numero(operacion == Operacion::Suma ? x + y : x - y, 0, DECIMALES_RESULTADO, nuevo);
+}
+
+void opera_columnas(
+    EstadoTabla& e, std::int32_t colA, Operacion operacion, std::int32_t colB, std::int32_t colResul) {
+    const Tablero& t = e.tablero;
     exige_en_tablero(t, {colA, colB, colResul});
-    const RedibujoSuspendido suspendido(t);
+    const RedibujoSuspendido suspendido(e.tablero);
+    std::string primero; // reading another cell may move a text
     escribe_columna(e, colResul, [&](int fila, std::string_view, std::string& nuevo) {
-        const double a = numero(t, fila, colA);
-        Formato_Numero(operacion(a, numero(t, fila, colB)), 0, DECIMALES_RESULTADO, nuevo);
+        primero = t.TextMatrix(fila, colA);
+        opera(primero, operacion, t.TextMatrix(fila, colB), nuevo);
     });
     aplica_formato(e, colResul);
 }
@@ -100,11 +127,11 @@ void avisa_no_numericas(EstadoTabla& e, std::int32_t columna, std::int32_t colRe
 }
 
 void suma_columnas(EstadoTabla& e, std::int32_t colA, std::int32_t colB, std::int32_t colResul) {
-    opera(e, colA, colB, colResul, [](double a, double b) { return a + b; });
+    opera_columnas(e, colA, Operacion::Suma, colB, colResul);
 }
 
 void resta_columnas(EstadoTabla& e, std::int32_t colA, std::int32_t colB, std::int32_t colResul) {
-    opera(e, colA, colB, colResul, [](double a, double b) { return a - b; });
+    opera_columnas(e, colA, Operacion::Resta, colB, colResul);
 }
 
 void diferencia_parcial(

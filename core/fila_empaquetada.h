@@ -19,7 +19,7 @@ namespace Qlt4_Tabla {
 inline constexpr std::uint8_t LARGO = 255;
 /// Bytes of the handle of a text that stands apart.
 inline constexpr std::uint32_t BYTES_ASA = 4;
-/// Bytes that must be readable, whatever they hold, behind the last row of a run: sums read by eights.
+/// Bytes that must be readable, whatever they hold, behind the last length of a row: sums read by eights.
 inline constexpr std::uint32_t RELLENO = 8;
 
 struct CabeceraFila {
@@ -84,12 +84,18 @@ inline std::uint32_t escribe_cabecera(std::uint8_t* p, const CabeceraFila& c) {
     return suma;
 }
 
+/// Sum of the first `n` length bytes, at most 15; reads 8, or 16 where `n` is more than 7.
+[[nodiscard]] inline std::uint32_t suma_hasta_15(const std::uint8_t* longitudes, std::uint32_t n) {
+    if (n < 8) return suma_pocas(longitudes, n);
+    return suma_pocas(longitudes, 7) + longitudes[7] + suma_pocas(longitudes + 8, n - 8);
+}
+
 /// Bytes that the texts of the first `n` stored columns take, for any row.
 [[nodiscard]] std::uint32_t suma_muchas(const std::uint8_t* longitudes, std::uint32_t n, bool largos);
 
 /// The same, quick for the first columns of a row without long texts (`largos`: the row's flag).
 [[nodiscard]] inline std::uint32_t suma_bytes(const std::uint8_t* longitudes, std::uint32_t n, bool largos) {
-    return n < 8 && !largos ? suma_pocas(longitudes, n) : suma_muchas(longitudes, n, largos);
+    return n < 16 && !largos ? suma_hasta_15(longitudes, n) : suma_muchas(longitudes, n, largos);
 }
 
 } // namespace Qlt4_Tabla

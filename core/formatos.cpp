@@ -94,10 +94,11 @@ void muestra_numero(std::string_view texto, int decimales, std::string& destino)
 /// Every number of the column in the form of its decimals; cells that have it already are left.
 void reformatea_numeros(EstadoTabla& e, int col, int decimales) {
     bool preguntado = false; // the separator, once a column instead of once a cell
-    e.tablero.transforma_columna(
-        col, 1, e.tablero.Rows() - 1, [&](int, std::string_view texto, std::string& nuevo) {
+    e.tablero.da_forma(
+        col, "decimales" + Str(decimales), [&](int, std::string_view texto, std::string& nuevo) {
             if (texto.empty()) return false;
             if (!std::exchange(preguntado, true)) refresca_ComaDecimal(e);
+            if (tiene_forma_de_numero(texto, decimales)) return false;
             muestra_numero(texto, decimales, nuevo);
             return nuevo != texto;
         });
@@ -106,14 +107,15 @@ void reformatea_numeros(EstadoTabla& e, int col, int decimales) {
 /// Every value of the column becomes the first of its list; error 9 at a value when there is none.
 void reinicia_lista(EstadoTabla& e, int col) {
     const Matriz<std::string>& valores = e.listas[static_cast<std::size_t>(col)].Col;
-    e.tablero.transforma_columna(
-        col, 1, e.tablero.Rows() - 1, [&](int, std::string_view texto, std::string& nuevo) {
-            if (texto.empty()) return false;
-            const std::string& primero = valores[0];
-            if (texto == primero) return false;
-            nuevo = primero;
-            return true;
-        });
+    const bool hay = !valores.empty() && valores.LBound() <= 0 && valores.UBound() >= 0;
+    const std::string forma = hay ? "lista:" + valores[0] : "lista";
+    e.tablero.da_forma(col, forma, [&](int, std::string_view texto, std::string& nuevo) {
+        if (texto.empty()) return false;
+        const std::string& primero = valores[0];
+        if (texto == primero) return false;
+        nuevo = primero;
+        return true;
+    });
 }
 
 } // namespace

@@ -102,6 +102,19 @@ void Formato_Numero(double x, int ancho, int decimales, std::string& destino) {
         escribe(decimal_de_real(x), ancho, decimales, destino);
 }
 
+bool tiene_forma_de_numero(std::string_view texto, int decimales) noexcept {
+    constexpr std::size_t maximas_cifras = 15;
+    const bool menos = !texto.empty() && texto.front() == '-';
+    if (menos) texto.remove_prefix(1);
+    const std::size_t detras = decimales > 0 ? static_cast<std::size_t>(decimales) + 1 : 0; // the point too
+    if (texto.size() <= detras || texto.size() > maximas_cifras + (detras != 0 ? 1 : 0)) return false;
+    const std::size_t enteras = texto.size() - detras;
+    if (texto.front() == '0' && (enteras > 1 || menos)) return false; // "-0.5" takes the longer way
+    if (detras != 0 && texto[enteras] != '.') return false;
+    const auto son_cifras = [](std::string_view t) { return std::all_of(t.begin(), t.end(), es_cifra); };
+    return son_cifras(texto.substr(0, enteras)) && (detras == 0 || son_cifras(texto.substr(enteras + 1)));
+}
+
 std::string Punto_a_Coma(std::string_view texto) { return cambia_primero(texto, '.', ','); }
 
 std::string Coma_a_Punto(std::string_view texto) { return cambia_primero(texto, ',', '.'); }

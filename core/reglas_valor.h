@@ -35,6 +35,10 @@ TABLA_API void Formato_Numero(std::string_view texto, int ancho, int decimales, 
 TABLA_API std::string Formato_Numero(double x, int ancho, int decimales);
 TABLA_API void Formato_Numero(double x, int ancho, int decimales, std::string& destino);
 
+// Is the text a number of at most 15 digits that already stands as it would be written: with this many
+// decimals by Formato_Numero, without decimals by numero_a_texto? False for some that do.
+bool tiene_forma_de_numero(std::string_view texto, int decimales) noexcept;
+
 // The text with its first "." as ",".
 TABLA_API std::string Punto_a_Coma(std::string_view texto);
 

@@ -61,7 +61,10 @@ void TextMatrix(EstadoTabla& e, std::int32_t fila, std::int32_t colm, std::strin
         return;
     }
     refresca_ComaDecimal(e);
-    e.tablero.TextMatrix(fila, colm, Formato_Numero(valor, 0, f->Decimales));
+    if (tiene_forma_de_numero(valor, f->Decimales))
+        e.tablero.TextMatrix(fila, colm, valor);
+    else
+        e.tablero.TextMatrix(fila, colm, Formato_Numero(valor, 0, f->Decimales));
 }
 
 std::string TextMatrix(const EstadoTabla& e, std::int32_t fila, std::int32_t colm) {

@@ -21,8 +21,8 @@ void Tablero::comprueba_columna(int col) const {
 }
 
 void Tablero::comprueba(int fila, int col) const {
-    comprueba_fila(fila);
-    comprueba_columna(col);
+    const bool dentro = fila >= 0 && fila < Rows() && col >= 0 && col < Cols();
+    if (!dentro) lanza(NumError::Subindice);
 }
 
 void Tablero::comprueba(const Bloque& bloque) const {
@@ -65,6 +65,10 @@ void Tablero::inserta_filas(int fila, int n) {
     if (n == 0) return;
     comprueba_tamano(std::int64_t{Rows()} + n, Cols());
     con_memoria([&] { almacen_.inserta(fila, n); });
+    anota_filas([fila, n](TramosFilas& t) {
+        t.inserta(fila, n);
+        if (fila == 0) t.anade(n, n + 1); // what was the header may be a data row now
+    });
     imagenes_.inserta_filas(fila, n);
     avisos_.filas_insertadas(fila, n);
     avisa({fila + n, 0, Rows() - 1, 0});
@@ -75,6 +79,7 @@ void Tablero::borra_filas(int fila, int n) {
     if (fila < 0 || n > Rows() - fila) lanza(NumError::Subindice);
     if (n == 0) return;
     almacen_.borra(fila, n);
+    anota_filas([fila, n](TramosFilas& t) { t.borra(fila, n); });
     imagenes_.borra_filas(fila, n);
     recorta();
     avisos_.filas_borradas(fila, n);
@@ -87,6 +92,7 @@ void Tablero::borra_varias_filas(std::span<const int> filas) {
     comprueba_fila(filas.front());
     comprueba_fila(filas.back());
     almacen_.borra_varias(filas);
+    anota_filas([filas](TramosFilas& t) { t.borra(filas); });
     imagenes_.borra_varias_filas(filas);
     recorta();
     if (filas.back() - filas.front() + 1 == static_cast<int>(filas.size()))
@@ -111,21 +117,27 @@ std::string_view Tablero::TextMatrix(int fila, int col) const {
 
 void Tablero::TextMatrix(int fila, int col, std::string_view texto) {
     comprueba(fila, col);
-    if (con_memoria([&] { return almacen_.pon_texto(fila, col, texto); })) avisa({fila, col, fila, col});
+    if (!con_memoria([&] { return almacen_.pon_texto(fila, col, texto); })) return;
+    if (Forma* const f = columnas_[static_cast<std::size_t>(col)].forma.get())
+        f->pendientes.anade(fila, fila + 1);
+    avisa({fila, col, fila, col});
 }
 
 void Tablero::pon_fila(int fila, int col, std::span<const std::string_view> textos) {
     if (textos.empty()) return;
     comprueba(fila, col);
     if (textos.size() > static_cast<std::size_t>(Cols() - col)) lanza(NumError::Subindice);
+    const int col2 = col + static_cast<int>(textos.size()) - 1;
+    anota_escritas(fila, fila, col, col2);
     const bool cambia = con_memoria([&] { return almacen_.pon_fila(fila, col, textos); });
-    if (cambia) avisa({fila, col, fila, col + static_cast<int>(textos.size()) - 1});
+    if (cambia) avisa({fila, col, fila, col2});
 }
 
 void Tablero::transforma_columna(
     int col, int desde, int hasta, const std::function<bool(int, std::string_view, std::string&)>& cambia) {
     if (desde > hasta) return;
     comprueba({desde, col, hasta, col});
+    anota_escritas(desde, hasta, col, col);
     FilasCambiadas cambiadas;
     try {
         cambiadas = con_memoria([&] { return almacen_.transforma(col, desde, hasta, cambia); });
@@ -134,6 +146,46 @@ void Tablero::transforma_columna(
         throw;
     }
     if (cambiadas.hay()) avisa({cambiadas.primera, col, cambiadas.ultima, col});
+}
+
+// A cell that changes is looked at once more the next time: only what was seen to stay as it is has its form.
+void Tablero::da_forma(int col, std::string_view nombre,
+    const std::function<bool(int, std::string_view, std::string&)>& cambia) {
+    comprueba_columna(col);
+    auto& forma = columnas_[static_cast<std::size_t>(col)].forma;
+    if (!forma || forma->nombre != nombre) {
+        forma = con_memoria([&] { return std::make_unique<Forma>(Forma{std::string(nombre), {}}); });
+        forma->pendientes.anade(0, Rows());
+    }
+    TramosFilas pendientes;
+    FilasCambiadas cambiadas;
+    try {
+        for (const auto [desde, hasta] : forma->pendientes.tramos()) {
+            const FilasCambiadas de_estas = con_memoria([&] {
+                return almacen_.transforma(col, std::max(desde, 1), std::min(hasta, Rows()) - 1, cambia);
+            });
+            if (!de_estas.hay()) continue;
+            pendientes.anade(de_estas.primera, de_estas.ultima + 1);
+            cambiadas.extiende(de_estas.primera, de_estas.ultima);
+        }
+    } catch (...) {
+        avisa({1, col, Rows() - 1, col});
+        throw;
+    }
+    forma->pendientes = pendientes;
+    if (cambiadas.hay()) avisa({cambiadas.primera, col, cambiadas.ultima, col});
+}
+
+void Tablero::anota_escritas(int fila1, int fila2, int col1, int col2) {
+    for (int col = col1; col <= col2; ++col)
+        if (Forma* const f = columnas_[static_cast<std::size_t>(col)].forma.get())
+            f->pendientes.anade(fila1, fila2 + 1);
+}
+
+template <class Cambio>
+void Tablero::anota_filas(const Cambio& cambio) {
+    for (const Columna& c : columnas_)
+        if (c.forma) cambio(c.forma->pendientes);
 }
 
 // The current cell

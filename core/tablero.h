@@ -15,6 +15,7 @@
 #include "core/almacen_celdas.h"
 #include "core/avisos_unidos.h"
 #include "core/imagenes_celdas.h"
+#include "core/tramos_filas.h"
 #include "platform/vista_tablero.h"
 
 #include <cstdint>
@@ -82,6 +83,11 @@ public:
     void pon_fila(int fila, int col, std::span<const std::string_view> textos);
     /// Rewrites a column's data cells in one pass and with one notice; see AlmacenCeldas::transforma.
     void transforma_columna(int col, int desde, int hasta,
+        const std::function<bool(int, std::string_view, std::string&)>& cambia);
+
+    /// The same for all data cells, but for those that need not be looked at: they were not written since
+    /// `cambia` left them as they were in an earlier call with the same `forma`, which names what it does.
+    void da_forma(int col, std::string_view forma,
         const std::function<bool(int, std::string_view, std::string&)>& cambia);
 
     // The current cell and the far corner. Row moves RowSel with it, Col moves ColSel.
@@ -200,10 +206,16 @@ private:
         friend constexpr bool operator==(const Parte&, const Parte&) = default;
     };
 
+    struct Forma {
+        std::string nombre;
+        TramosFilas pendientes; // rows that may not have it
+    };
+
     struct Columna {
         int ancho = ANCHO_INICIAL;
         AlineacionCelda alineacion = AlineacionCelda::Izquierda;
         bool funde = false;
+        std::unique_ptr<Forma> forma; // the one given last
     };
 
     void comprueba_fila(int fila) const;
@@ -216,6 +228,9 @@ private:
     void avisa_cursor();
     void avisa_parte();
     void avisa(const Bloque& bloque);
+    void anota_escritas(int fila1, int fila2, int col1, int col2);
+    template <class Cambio>
+    void anota_filas(const Cambio& cambio);
     [[nodiscard]] Bloque bloque_de_relleno() const;
 
     AvisosUnidos avisos_;

@@ -193,6 +193,27 @@ void Trozo::acorta(int i, CabeceraFila c, std::uint32_t columnas) {
     encoge();
 }
 
+// The text goes into the gap before the others make room for its length, so that it may be one of them.
+bool Trozo::anexa(int i, int col, std::string_view texto) {
+    constexpr std::uint32_t MAXIMO = 31; // columns whose count fits into the first byte
+    if (i + 1 != corte_ || !datos_ || cabida_ > BYTES_BUENOS) return false;
+    std::uint8_t* const fila = datos_.get() + inicio(i);
+    const std::uint32_t tenia = fila[0] >> 2U;
+    const std::uint32_t columnas = static_cast<std::uint32_t>(col) + 1;
+    if (columnas <= tenia || columnas > MAXIMO) return false;
+    const std::uint32_t mas = columnas - tenia;
+    if (texto.empty() || texto.size() >= LARGO || mas + texto.size() > hueco()) return false;
+    std::uint8_t* const textos = fila + 1 + tenia;
+    std::uint8_t* const final = datos_.get() + hueco_ini_;
+    std::memcpy(final + mas, texto.data(), texto.size());
+    std::memmove(textos + mas, textos, static_cast<std::size_t>(final - textos));
+    for (std::uint8_t* vacia = textos; vacia != textos + mas - 1; ++vacia) *vacia = 0;
+    textos[mas - 1] = static_cast<std::uint8_t>(texto.size());
+    fila[0] = static_cast<std::uint8_t>((fila[0] & 3U) | columnas << 2U);
+    hueco_ini_ += mas + static_cast<std::uint32_t>(texto.size());
+    return true;
+}
+
 // The flag of long texts after one was taken away.
 void Trozo::revisa_largos(int i) {
     std::uint8_t* const fila = datos_.get() + inicio(i);

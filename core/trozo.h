@@ -108,6 +108,9 @@ public:
     /// Sets a cell of a packed chunk; `celda.bytes()` lies outside of it. Column beyond the stored ones: the
     /// row grows up to it.
     void pon(int i, int col, const CeldaGuardada& celda);
+    /// Sets a cell beyond the stored ones of the row written last, where there is room for it: the quick way of
+    /// filling row after row. False: no such cell, and nothing is done. The text may lie anywhere; `col` > 0.
+    bool anexa(int i, int col, std::string_view texto);
     /// Replaces a whole packed row by its bytes.
     void pon_fila(int i, std::span<const std::uint8_t> fila);
     /// The bytes of a packed row.
@@ -184,14 +187,14 @@ private:
 };
 
 inline CeldaGuardada Trozo::celda(int i, int col) const {
-    if (!datos_ || col < 1 || col > 7) return una_celda(i, col);
+    if (!datos_ || col < 1 || col > 15) return una_celda(i, col);
     const std::uint8_t* const p = datos_.get() + inicio(i);
     if ((p[0] & (CabeceraFila::LARGOS | CabeceraFila::SIGUE)) != 0) return una_celda(i, col);
     const auto columna = static_cast<std::uint32_t>(col);
     const std::uint32_t columnas = p[0] >> 2U;
     if (columna >= columnas) return {};
     const std::uint8_t* const longitudes = p + 1;
-    const std::uint8_t* const texto = longitudes + columnas + suma_pocas(longitudes, columna);
+    const std::uint8_t* const texto = longitudes + columnas + suma_hasta_15(longitudes, columna);
     return {{reinterpret_cast<const char*>(texto), longitudes[columna]}, Contenido::Texto};
 }
 
