@@ -1,18 +1,22 @@
 // SPDX-License-Identifier: MIT
 // The input that every contestant of a measurement gets: rows of ten columns, whole number, real with
 // three decimals, short text, list value and empty, twice; 6.6 bytes of text a cell on average.
-// Main names: DatosMedida, memoria_en_uso.
+// Main names: DatosMedida, datos.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <malloc.h>
 #include <string>
 #include <vector>
 
 namespace Qlt4_Tabla::medida {
 
 inline constexpr int COLUMNAS = 10;
+/// 0-based among the data columns: the two columns of reals, and the one that takes their sums.
+inline constexpr int COL_REAL = 1;
+inline constexpr int COL_REAL2 = 6;
+inline constexpr int COL_SUMA = 4;
 /// Rows that the texts are made for; a longer table repeats them, so that the input itself stays small.
 inline constexpr int FILAS_DISTINTAS = 4096;
 
@@ -32,6 +36,30 @@ public:
     [[nodiscard]] const std::string& celda(int fila, int col) const {
         const auto f = static_cast<std::size_t>(fila % FILAS_DISTINTAS);
         return textos_[f * COLUMNAS + static_cast<std::size_t>(col)];
+    }
+
+    /// So many rows as a block of text: TAB between cells, CR LF behind each row, `decimal` in the reals.
+    [[nodiscard]] std::string bloque(int filas, char decimal) const {
+        std::string texto;
+        texto.reserve(static_cast<std::size_t>(filas) * 80);
+        for (int f = 0; f < filas; ++f) {
+            for (int c = 0; c < COLUMNAS; ++c) {
+                if (c > 0) texto += '\t';
+                const std::size_t desde = texto.size();
+                texto += celda(f, c);
+                std::replace(texto.begin() + static_cast<std::ptrdiff_t>(desde), texto.end(), '.', decimal);
+            }
+            texto += "\r\n";
+        }
+        return texto;
+    }
+
+    /// Bytes of the texts of so many rows.
+    [[nodiscard]] std::size_t bytes(int filas) const {
+        std::size_t n = 0;
+        for (int f = 0; f < filas; ++f)
+            for (int c = 0; c < COLUMNAS; ++c) n += celda(f, c).size();
+        return n;
     }
 
 private:
@@ -54,12 +82,6 @@ private:
 inline const DatosMedida& datos() {
     static const DatosMedida d;
     return d;
-}
-
-/// Bytes that the program holds from the heap, large blocks included.
-inline std::size_t memoria_en_uso() {
-    const struct mallinfo2 m = mallinfo2();
-    return m.uordblks + m.hblkhd;
 }
 
 } // namespace Qlt4_Tabla::medida

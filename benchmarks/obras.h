@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+// The works without a window, the same for every contestant; a contestant is a class with these verbs, its
+// data rows and columns counted from 0:
+//   filas(n) pon(f, c, text) lee(f, c) -> size  pega(block) copia() -> size  anade() inserta(f) borra(f)
+//   graba(file) carga(file) suma(a, b, result)
+#pragma once
+
+#include "datos.h"
+#include "medidor.h"
+
+#include <filesystem>
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+namespace Qlt4_Tabla::medida {
+
+/// A file for one run, gone with it.
+class FicheroPasajero {
+public:
+    FicheroPasajero()
+        : ruta_((std::filesystem::temp_directory_path() / ("medida" + std::to_string(reloj()))).string()) {}
+
+    ~FicheroPasajero() {
+        std::error_code nada;
+        std::filesystem::remove(ruta_, nada);
+    }
+
+    FicheroPasajero(const FicheroPasajero&) = delete;
+    FicheroPasajero& operator=(const FicheroPasajero&) = delete;
+
+    [[nodiscard]] const std::string& ruta() const { return ruta_; }
+
+private:
+    std::string ruta_;
+};
+
+inline void exige(bool bien, const char* que) {
+    if (!bien) throw std::runtime_error(que);
+}
+
+template <class C>
+void llena(C& c, int filas) {
+    c.filas(filas);
+    for (int f = 0; f < filas; ++f)
+        for (int col = 0; col < COLUMNAS; ++col) c.pon(f, col, datos().celda(f, col));
+}
+
+template <class C>
+std::size_t lee_todo(C& c, int filas) {
+    std::size_t bytes = 0;
+    for (int f = 0; f < filas; ++f)
+        for (int col = 0; col < COLUMNAS; ++col) bytes += c.lee(f, col);
+    return bytes;
+}
+
+template <class C>
+void mide_celdas(const Medidor& m, int filas) {
+    datos();
+    olvida_maximo();
+    const double antes = memoria("VmRSS");
+    auto c = std::make_unique<C>();
+    m.anota("vacia_kb", memoria("VmRSS") - antes);
+    m.una("llena", [&] { llena(*c, filas); });
+    m.anota("bytes_por_celda", (memoria("VmHWM") - antes) * 1024 / filas / COLUMNAS);
+    std::size_t bytes = 0;
+    m.una("lee", [&] { bytes = lee_todo(*c, filas); });
+    exige(bytes == datos().bytes(filas), "not what was written");
+    m.una("copia", [&] { bytes = c->copia(); });
+    exige(bytes == datos().bloque(filas, '.').size(), "not the whole block");
+    m.una("suma", [&] { c->suma(COL_REAL, COL_REAL2, COL_SUMA); });
+    const double suma =
+        std::stod(datos().celda(filas - 1, COL_REAL)) + std::stod(datos().celda(filas - 1, COL_REAL2));
+    exige(c->lee(filas - 1, COL_SUMA) == std::to_string(suma).size() - 3, "no sum with three decimals");
+    m.varias("inserta_borra", 200, [&] {
+        c->inserta(filas / 2);
+        c->borra(filas / 2);
+    });
+    m.varias("anade", 1000, [&] { c->anade(); });
+}
+
+template <class C>
+void mide_pega(const Medidor& m, int filas) {
+    const std::string bloque = datos().bloque(filas, ',');
+    auto c = std::make_unique<C>();
+    m.una("pega", [&] { c->pega(bloque); });
+    exige(c->lee(filas - 1, COL_REAL) == datos().celda(filas - 1, COL_REAL).size(), "not what was pasted");
+}
+
+template <class C>
+void mide_fichero(const Medidor& m, int filas) {
+    const FicheroPasajero fichero;
+    auto c = std::make_unique<C>();
+    llena(*c, filas);
+    m.una("graba", [&] { c->graba(fichero.ruta()); });
+    c = std::make_unique<C>();
+    m.una("carga", [&] { c->carga(fichero.ruta()); });
+    exige(lee_todo(*c, filas) == datos().bytes(filas), "not what was saved");
+}
+
+template <class C>
+void mide_obras(const Medidor& m, const std::string& grupo, int filas) {
+    if (grupo == "celdas") mide_celdas<C>(m, filas);
+    if (grupo == "pega") mide_pega<C>(m, filas);
+    if (grupo == "fichero") mide_fichero<C>(m, filas);
+}
+
+} // namespace Qlt4_Tabla::medida
