@@ -16,6 +16,7 @@ int main(int argc, char** argv) {
     if (opciones.fin) return *opciones.fin;
     ejemplos::viste(opciones.oscuro);
 
+    // begin: tabla
     TablaWidget ventana;
     Tabla0& t = ventana.tabla();
     t.Tablero_Nombres(minimo::TITULO_TABLA, minimo::SUBTITULO, "*.tb0");
@@ -35,6 +36,7 @@ int main(int argc, char** argv) {
         const int col = t.tablero().Col();
         std::cout << t.TextMatrix(0, col) << ' ' << fila << ": " << t.TextMatrix(fila, col) << std::endl;
     });
+    // end: tabla
 
     ventana.setWindowTitle(minimo::TITULO);
     ventana.resize(420, 260);
