@@ -56,7 +56,7 @@ CONCURSANTES = [
     ("this table", "ventanas_qt", "tabla", ["ventana", "arranque"]),
     ("QTableWidget", "ventanas_qt", "qtablewidget", ["celdas", "pega", "fichero", "ventana", "arranque"]),
     ("QStandardItemModel", "ventanas_qt", "qstandarditemmodel", ["celdas", "pega", "fichero", "ventana", "arranque"]),
-    ("wxGrid", "rejilla_wx", "wxgrid", ["celdas", "pega", "fichero", "ventana", "arranque"]),
+    ("wxGrid", "rejilla_wx", "wxgrid", ["celdas", "pega", "fichero"]),
     ("vectors", "celdas", "vectores", ["celdas", "pega", "fichero"]),
     ("limit", "celdas", "limite", ["celdas", "pega", "fichero"]),
     ("limit", "ventanas_qt", "limite", ["ventana", "arranque"]),

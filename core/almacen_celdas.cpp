@@ -243,7 +243,10 @@ std::span<const std::uint8_t> AlmacenCeldas::Interior::fila_con(
     while (n != 0 && nuevas[n - 1] == 0) --n;
 
     std::uint8_t* p = std::copy_n(viejos, bytes_hasta(antes), nuevas + n);
-    for (const std::string_view t : textos) p = std::copy(t.begin(), t.end(), p);
+    for (const std::string_view t : textos) {
+        if (!t.empty()) std::memcpy(p, t.data(), t.size());
+        p += t.size();
+    }
     p = std::copy(viejos + bytes_hasta(despues), viejos + bytes_hasta(tenia), p);
     c.columnas = static_cast<std::uint32_t>(n);
     std::uint8_t* const cabecera = nuevas - bytes_cabecera(c.columnas);

@@ -160,9 +160,10 @@ void Tablero::da_forma(int col, std::string_view nombre,
     TramosFilas pendientes;
     FilasCambiadas cambiadas;
     try {
-        for (const auto [desde, hasta] : forma->pendientes.tramos()) {
+        for (const TramosFilas::Tramo& tramo : forma->pendientes.tramos()) {
             const FilasCambiadas de_estas = con_memoria([&] {
-                return almacen_.transforma(col, std::max(desde, 1), std::min(hasta, Rows()) - 1, cambia);
+                const int ultima = std::min(tramo.hasta, Rows()) - 1;
+                return almacen_.transforma(col, std::max(tramo.desde, 1), ultima, cambia);
             });
             if (!de_estas.hay()) continue;
             pendientes.anade(de_estas.primera, de_estas.ultima + 1);
