@@ -142,7 +142,7 @@ bool Mandos::tecla_pulsada(int KeyAscii) {
         case teclas::INTRO: navegacion_.Avanza_Cursor(); break;
         case teclas::ESCAPE: e_.eventos.Salir(); break;
         case teclas::ESPACIO:
-            usada = !es_formato(formato(e_, e_.tablero.Col()).Formato, T_formato::Alfanm);
+            usada = !es_texto(formato(e_, e_.tablero.Col()).Formato);
             if (usada) navegacion_.Avanza_Cursor();
             break;
         default:

@@ -30,6 +30,7 @@ const MenusTabla::Columna* MenusTabla::de_columna(const T_FormatoColumna& format
     }};
     for (const Columna& menu : MENUS)
         if (es_formato(formato.Formato, menu.formato)) return &menu;
+    if (es_texto(formato.Formato)) return MENUS.data(); // an unknown format counts as text
     return nullptr;
 }
 

@@ -8,6 +8,7 @@
 #include "core/textos.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <string>
 
@@ -72,6 +73,7 @@ void lee_propiedades(EstadoTabla& e, const BolsaPropiedades& bolsa) {
     const std::int32_t filas = bolsa.lee(titulo + "Rows", FILAS_LEIDAS).a_entero32();
     const float ancho = bolsa.lee(titulo + "Widht", ANCHO_LEIDO).a_simple();
     const float alto = bolsa.lee(titulo + "Height", ALTO_LEIDO).a_simple();
+    if (!std::isfinite(ancho) || !std::isfinite(alto)) lanza(NumError::Desbordamiento);
     const std::string cadena = bolsa.lee(titulo + "A_FormatString", "").a_texto();
 
     pon_cuentas(e.tablero, columnas, filas);

@@ -83,6 +83,11 @@ struct T_Col {
 /// True for Entero, EntPos, Real__ and RealPo.
 [[nodiscard]] constexpr bool es_numerico(std::int16_t formato) { return formato >= 0 && formato <= 3; }
 
+/// True for Alfanm and for what is no format at all, which counts as text.
+[[nodiscard]] constexpr bool es_texto(std::int16_t formato) {
+    return formato == static_cast<std::int16_t>(T_formato::Alfanm) || formato < 0 || formato > 7;
+}
+
 /// True for Real__ and RealPo.
 [[nodiscard]] constexpr bool es_real(std::int16_t formato) { return formato == 2 || formato == 3; }
 

@@ -79,7 +79,7 @@ int EditorCelda::tecla_casilla(int KeyAscii) {
     }
     const int col = abierta_casilla() ? col_ : e_.tablero.Col();
     const std::int16_t clase = formato(e_, col).Formato;
-    const bool espacio_confirma = KeyAscii == teclas::ESPACIO && !es_formato(clase, T_formato::Alfanm);
+    const bool espacio_confirma = KeyAscii == teclas::ESPACIO && !es_texto(clase);
     if (KeyAscii == teclas::INTRO || espacio_confirma) {
         confirma_y_avanza();
         return 0;
@@ -187,8 +187,7 @@ void EditorCelda::abre_lista(int fila, int col) {
     const Matriz<std::string>& lista = valores(e_, col);
     const std::span<const std::string> entradas(lista.begin(), lista.end());
     const auto igual = std::find(entradas.begin(), entradas.end(), e_.tablero.TextMatrix(fila, col));
-    hay_eleccion_ = igual != entradas.end();
-    const int elegida = hay_eleccion_ ? static_cast<int>(igual - entradas.begin()) : -1;
+    const int elegida = igual != entradas.end() ? static_cast<int>(igual - entradas.begin()) : -1;
     e_.plataforma.lista.muestra(rectangulo_celda(e_.tablero, fila, col), entradas, elegida);
 }
 
@@ -234,8 +233,7 @@ void EditorCelda::confirma(const std::string& texto, bool escribe) {
 
 void EditorCelda::escribe_eleccion() {
     const std::string texto = e_.plataforma.lista.texto();
-    // An empty text is an entry of that text only where some entry is sure to be selected.
-    const bool hay = !texto.empty() || hay_eleccion_;
+    const bool hay = e_.plataforma.lista.elegida() >= 0;
     cierra();
     if (hay && existe_celda() && fila_ != 0 && col_ != 0) e_.tablero.TextMatrix(fila_, col_, texto);
 }

@@ -101,7 +101,6 @@ private:
     Que que_ = Que::Nada;
     int fila_ = 0;
     int col_ = 0;
-    bool hay_eleccion_ = false; // the list opened with an entry selected, so one always is
 };
 
 } // namespace Qlt4_Tabla

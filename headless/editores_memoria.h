@@ -75,7 +75,7 @@ public:
     [[nodiscard]] const std::vector<std::string>& entradas() const { return entradas_; }
 
     /// The selected entry, 0-based; -1: none.
-    [[nodiscard]] int elegida() const { return elegida_; }
+    [[nodiscard]] int elegida() const override { return elegida_; }
 
     /// The user moves to an entry, 0-based; outside the list: none is selected.
     void elige(int entrada);

@@ -26,6 +26,8 @@ public:
     virtual void mueve(const Rectangulo& celda) = 0;
     /// The text of the selected entry; empty when none is selected.
     [[nodiscard]] virtual std::string texto() const = 0;
+    /// The selected entry, 0-based; -1: none.
+    [[nodiscard]] virtual int elegida() const = 0;
 };
 
 /// A list that is never seen and keeps nothing.
@@ -38,6 +40,8 @@ public:
     void mueve(const Rectangulo&) override {}
 
     [[nodiscard]] std::string texto() const override { return {}; }
+
+    [[nodiscard]] int elegida() const override { return -1; }
 };
 
 } // namespace Qlt4_Tabla

@@ -211,6 +211,8 @@ void PuertosQt::Lista::mueve(const Rectangulo& celda) {
     if (p_.cob_lista_) p_.cob_lista_->mueve(p_.px(celda));
 }
 
+int PuertosQt::Lista::elegida() const { return p_.cob_lista_ ? p_.cob_lista_->currentIndex() : -1; }
+
 std::string PuertosQt::Lista::texto() const {
     return p_.cob_lista_ ? p_.cob_lista_->currentText().toStdString() : std::string();
 }

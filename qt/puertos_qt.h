@@ -93,6 +93,7 @@ private:
         void oculta() override;
         void mueve(const Rectangulo& celda) override;
         [[nodiscard]] std::string texto() const override;
+        [[nodiscard]] int elegida() const override;
 
     private:
         PuertosQt& p_;

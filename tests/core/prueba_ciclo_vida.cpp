@@ -8,6 +8,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <limits>
+
 using namespace Qlt4_Tabla;
 
 namespace {
@@ -27,6 +30,17 @@ struct Ciclo_de_vida : testing::Test, Mesa {
 const Textos CLAVES{"Cols", "Rows", "Widht", "Height", "A_FormatString", "A_ExtensionFche"};
 
 } // namespace
+
+TEST_F(Ciclo_de_vida, un_tamano_que_no_es_un_numero_no_cambia_nada) {
+    arranca(e);
+    for (const char* clave : {"Widht", "Height"}) {
+        p.bolsa.valores.clear();
+        bolsa_con("Rows", std::int32_t{9});
+        bolsa_con(clave, std::numeric_limits<float>::quiet_NaN());
+        EXPECT_EQ(error_de([&] { lee(); }), 6) << clave;
+        EXPECT_EQ(t().Rows(), 4);
+    }
+}
 
 // --- Start-up ---
 

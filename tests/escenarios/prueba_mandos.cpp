@@ -103,6 +103,16 @@ TEST_F(PruebaMandos, lo_que_una_tecla_dice_de_si) {
     EXPECT_FALSE(m().tecla_abajo(teclas::SUPR, {}));
 }
 
+TEST_F(PruebaMandos, un_formato_desconocido_cuenta_como_texto) {
+    tabla.Formatcol(1, "-", "-", 9, 0, 0, 10, "C");
+    EXPECT_EQ(tabla.estado().Formatos[1].Formato, 9);
+    EXPECT_FALSE(m().tecla_pulsada(teclas::ESPACIO));
+    EXPECT_EQ(t().Row(), 1);
+    m().tecla_pulsada('a');
+    EXPECT_EQ(m().tecla_casilla(teclas::ESPACIO), teclas::ESPACIO);
+    EXPECT_TRUE(m().editor().abierta_casilla());
+}
+
 TEST_F(PruebaMandos, soltar_sin_haber_pulsado_no_es_un_clic) {
     m().raton_arriba(x(2), y(2), Boton::Izquierdo);
     m().raton_mueve(x(3), y(3));
