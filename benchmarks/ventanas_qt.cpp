@@ -10,6 +10,7 @@
 
 #include <QAbstractScrollArea>
 #include <QApplication>
+#include <QThread>
 #include <QWheelEvent>
 
 #include <iostream>
@@ -26,9 +27,13 @@ public:
 
     /// Goes on until something was painted and nothing more waits.
     void espera() {
-        constexpr int MUCHAS = 1000;
+        constexpr double PACIENCIA = 10'000;
         const int antes = pintadas_;
-        for (int i = 0; i < MUCHAS && pintadas_ == antes; ++i) QApplication::processEvents();
+        QApplication::processEvents();
+        for (const double desde = reloj(); pintadas_ == antes && reloj() < desde + PACIENCIA;) {
+            QThread::usleep(100); // the screen's answer is on its way
+            QApplication::processEvents();
+        }
         QApplication::processEvents();
         exige(pintadas_ != antes, "nothing was painted");
     }
