@@ -93,6 +93,7 @@ if(TABLA_CABECERAS)
       add_library(cabeceras_${carpeta} OBJECT ${solas})
       tabla_comun(cabeceras_${carpeta})
       target_link_libraries(cabeceras_${carpeta} PRIVATE tabla_${carpeta})
+      target_compile_options(cabeceras_${carpeta} PRIVATE -O0 -g0) # nobody runs them
     endif()
   endforeach()
 endif()

@@ -8,6 +8,7 @@
 //   t.Tablero_establece_Formato();
 //   QObject::connect(widget, &TablaWidget::CambiaCasilla, [&t] { redraw(t); });
 //
+// A host that may go while one of the table's dialogs is open uses deleteLater, as with any modal dialog.
 // All calls on the user-interface thread. The widget owns the table; two widgets share nothing.
 #pragma once
 

@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QPointer>
 #include <QShortcut>
+#include <QTimer>
 #include <QToolButton>
 
 using namespace Qlt4_Tabla;
@@ -40,6 +41,8 @@ private slots:
     void los_iconos_siguen_a_la_paleta();
     void la_rejilla_reclama_sus_teclas_de_menu_y_no_F10();
     void una_orden_con_mensaje_no_toca_un_menu_muerto();
+    void destruir_la_tabla_con_un_dialogo_abierto_data();
+    void destruir_la_tabla_con_un_dialogo_abierto();
     void dos_tablas_abren_cada_una_su_menu();
 };
 
@@ -329,6 +332,37 @@ void TstMenus::una_orden_con_mensaje_no_toca_un_menu_muerto() {
     manos::clic(*menu, menu->actionGeometry(copiar).center());
     QCoreApplication::processEvents();
     QVERIFY(!vivo);
+}
+
+void TstMenus::destruir_la_tabla_con_un_dialogo_abierto_data() {
+    QTest::addColumn<int>("cual");
+    QTest::newRow("columns") << 0;
+    QTest::newRow("open a file") << 1;
+    QTest::newRow("save a file") << 2;
+    QTest::newRow("colours") << 3;
+}
+
+// As a host's window that is closed under the dialog and deletes itself.
+void TstMenus::destruir_la_tabla_con_un_dialogo_abierto() {
+    QFETCH(const int, cual);
+    MesaQt m;
+    QPointer<TablaWidget> tabla = m.widget;
+    bool visto = false;
+    QTimer::singleShot(50, &m.ventana, [&] {
+        m.widget->deleteLater();
+        if (QWidget* dialogo = QApplication::activeModalWidget()) {
+            visto = true;
+            dialogo->close();
+        }
+    });
+    switch (cual) {
+    case 0: m.tabla().mandos().orden(Opcion::MN_editor_de_columnas); break;
+    case 1: m.tabla().mandos().orden(Opcion::Mnu_Tabla_Leer); break;
+    case 2: m.tabla().mandos().orden(Opcion::Mnu_Tabla_Guardar_como); break;
+    default: static_cast<void>(m.tabla().Show_Elige_Color(255)); break;
+    }
+    QVERIFY(visto);
+    QTRY_VERIFY(tabla.isNull());
 }
 
 void TstMenus::dos_tablas_abren_cada_una_su_menu() {
