@@ -11,6 +11,7 @@
 #include "core/numeracion.h"
 #include "core/reloj_de_arena.h"
 #include "core/sin_errores.h"
+#include "core/sin_redibujar.h"
 #include "core/superficie.h"
 
 #include <algorithm>
@@ -24,20 +25,6 @@ namespace Qlt4_Tabla {
 namespace {
 
 using Campos = std::vector<std::string_view>;
-
-/// No redrawing while it lives; on again afterwards, whatever a step in between left.
-class SinRedibujar {
-public:
-    explicit SinRedibujar(Tablero& t) : t_(t) { t_.Redraw(false); }
-
-    SinRedibujar(const SinRedibujar&) = delete;
-    SinRedibujar& operator=(const SinRedibujar&) = delete;
-
-    ~SinRedibujar() { t_.Redraw(true); }
-
-private:
-    Tablero& t_;
-};
 
 /// Takes a block apart line by line. The block must outlive the fields; its commas may become points.
 class LectorBloque {

@@ -7,6 +7,7 @@
 #include "base/utf8.h"
 #include "core/incrementa_texto.h"
 #include "core/numeracion.h"
+#include "core/sin_redibujar.h"
 
 #include <algorithm>
 #include <string>
@@ -16,20 +17,6 @@
 namespace Qlt4_Tabla {
 
 namespace {
-
-/// No redrawing while it lives; on again afterwards, whatever happens.
-class SinRedibujar {
-public:
-    explicit SinRedibujar(Tablero& t) : t_(t) { t_.Redraw(false); }
-
-    SinRedibujar(const SinRedibujar&) = delete;
-    SinRedibujar& operator=(const SinRedibujar&) = delete;
-
-    ~SinRedibujar() { t_.Redraw(true); }
-
-private:
-    Tablero& t_;
-};
 
 bool accion(const T_FormatoColumna& f, T_Accion cual) { return f.Accion == static_cast<std::int16_t>(cual); }
 

@@ -264,16 +264,16 @@ TEST(Clase, HasEveryAccessorOfTheTableInItsOrder) {
     EXPECT_EQ(de_la_clase.size(), 67U);
 }
 
+// Only the Itanium ABI tells a member's place in a pointer to it; the other one also keeps overloads together.
+#if !defined(_MSC_VER)
 TEST(Clase, StandsInTheFunctionTableInTheOrderOfTheTable) {
-#if defined(_MSC_VER)
-    GTEST_SKIP() << "this compiler does not tell places in the function table, and keeps overloads together";
-#endif
     std::ptrdiff_t esperado = 2; // behind the two entries of the destructor
     for (const Accesor& a : accesores()) {
         EXPECT_EQ(a.hueco, esperado) << a.nombre;
         ++esperado;
     }
 }
+#endif
 
 // A class with members of its own is no plain interface: hosts bound by position count on none.
 TEST(Clase, HoldsNothingButItsFunctionTable) {

@@ -100,19 +100,6 @@ TEST(Guion, se_niega_a_leer_lo_que_no_es_un_guion) {
     EXPECT_EQ(lee_mal("escena \"a\n"), "g:1: a quote is not closed");
 }
 
-TEST(Guion, una_escena_solo_de_memoria_dice_por_que) {
-    std::istringstream entrada("escena a\nsolo memoria: no window\nclic 1 1\nescena b\nclic 1 1\n");
-    const Guion guion = lee_guion(entrada, "g");
-    EXPECT_EQ(guion.escenas[0].solo_memoria, "no window");
-    EXPECT_EQ(guion.escenas[0].pasos.size(), 1U);
-    EXPECT_EQ(guion.escenas[1].solo_memoria, "");
-    EXPECT_EQ(lee_mal("escena a\nsolo memoria:\n"), "g:2: solo memoria without a reason");
-    EXPECT_EQ(
-        lee_mal("escena a\nclic 1 1\nsolo memoria: x\n"), "g:3: solo memoria stands right below its scene");
-    EXPECT_EQ(lee_mal("solo memoria: x\nescena a\n"), "g:1: solo memoria stands right below its scene");
-    EXPECT_EQ(lee_mal("escena a\nsolo ventana: x\n"), "g:2: \"memoria:\" is missing");
-}
-
 TEST(Guion, falla_lo_que_el_mundo_no_tiene) {
     EXPECT_EQ(corre(MESA + "corta_fichero no 3\n"), "g:5: no file that can be cut so: no");
     EXPECT_EQ(corre(MESA + "color Aceptar|salta\n"), "g:5: no such step in the colour picker: salta");

@@ -113,6 +113,28 @@ TEST_F(PruebaMandos, un_formato_desconocido_cuenta_como_texto) {
     EXPECT_TRUE(m().editor().abierta_casilla());
 }
 
+// Not in the scripts: on a window the open list lies over its cell and takes the click.
+TEST_F(PruebaMandos, un_tercer_clic_rapido_cicla_tras_abrirse_la_lista) {
+    tabla.FormatoColumnas(
+        2, false, false, T_formato::ListaU, 0, T_Alineacion::Izqda, T_Accion::Nada__, 10, "Uso");
+    tabla.Lista(2, Matriz<std::string>(0, {"A", "B", "C"}));
+    tabla.TextMatrix(1, 2, "B");
+    const auto clic = [&] {
+        m().raton_abajo(x(2), y(1), Boton::Izquierdo, {});
+        m().raton_arriba(x(2), y(1), Boton::Izquierdo);
+    };
+    clic();
+    m().doble_clic(x(2), y(1));
+    m().raton_arriba(x(2), y(1), Boton::Izquierdo);
+    EXPECT_EQ(p.lista.texto(), "B");
+    EXPECT_TRUE(p.lista.visible());
+    p.registro.clear();
+    clic();
+    EXPECT_THAT(p.registro, ElementsAre("ACambiadoValorCombo 1 2"));
+    EXPECT_FALSE(m().editor().abierto());
+    EXPECT_EQ(t().TextMatrix(1, 2), "C");
+}
+
 TEST_F(PruebaMandos, soltar_sin_haber_pulsado_no_es_un_clic) {
     m().raton_arriba(x(2), y(2), Boton::Izquierdo);
     m().raton_mueve(x(3), y(3));

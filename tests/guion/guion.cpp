@@ -71,9 +71,7 @@ private:
         Palabras palabras(paso.texto.front() == '>' ? std::string_view() : std::string_view(paso.texto));
         if (palabras.toma("escena")) {
             if (repeticiones_ > 0) throw FalloGuion("a scene inside repite");
-            guion_.escenas.push_back({palabras.resto(), paso.linea, {}, {}});
-        } else if (palabras.toma("solo")) {
-            marca_solo_memoria(palabras);
+            guion_.escenas.push_back({palabras.resto(), paso.linea, {}});
         } else if (palabras.toma("repite")) {
             if (repeticiones_ > 0) throw FalloGuion("repite inside repite");
             repeticiones_ = palabras.entero();
@@ -84,15 +82,6 @@ private:
         } else {
             pasos().push_back(std::move(paso));
         }
-    }
-
-    void marca_solo_memoria(Palabras& palabras) {
-        palabras.exige("memoria:");
-        if (guion_.escenas.empty() || !guion_.escenas.back().pasos.empty() || repeticiones_ > 0)
-            throw FalloGuion("solo memoria stands right below its scene");
-        Escena& escena = guion_.escenas.back();
-        escena.solo_memoria = palabras.resto();
-        if (escena.solo_memoria.empty()) throw FalloGuion("solo memoria without a reason");
     }
 
     void escribe_repeticion() {

@@ -12,7 +12,6 @@
 //     > SelChange
 //     ? celda 1 1 = 12.500
 //
-// `solo memoria: REASON`, right below `escena`, keeps a scene away from the drivers of real windows.
 // The words stand in pasos.h. `cuando EVENT STEP` lets the host do a step inside the next such event.
 // Free of any test library: failures are texts "file:line: what".
 #pragma once
@@ -33,7 +32,6 @@ struct Paso {
 struct Escena {
     std::string nombre;
     int linea = 0;
-    std::string solo_memoria; ///< why no real window can run it; empty: any driver can
     std::vector<Paso> pasos;
 };
 

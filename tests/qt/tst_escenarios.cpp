@@ -23,7 +23,6 @@ private slots:
     void hay_y_todos_se_leen();
     void un_guion_falso_falla_data();
     void un_guion_falso_falla();
-    void pocas_escenas_son_solo_de_memoria();
     void escena_data();
     void escena();
 };
@@ -76,18 +75,6 @@ void TstEscenarios::un_guion_falso_falla() {
     QCOMPARE(QString::fromStdString(corre(pasos)), fallo);
 }
 
-// At most one in fifty.
-void TstEscenarios::pocas_escenas_son_solo_de_memoria() {
-    std::size_t todas = 0;
-    std::size_t marcadas = 0;
-    for (const Guion& guion : leidos().guiones)
-        for (const Escena& escena : guion.escenas) {
-            ++todas;
-            if (!escena.solo_memoria.empty()) ++marcadas;
-        }
-    QVERIFY(marcadas * 50 <= todas);
-}
-
 void TstEscenarios::escena_data() {
     QTest::addColumn<const Guion*>("guion");
     QTest::addColumn<const Escena*>("escena");
@@ -102,7 +89,6 @@ void TstEscenarios::escena_data() {
 void TstEscenarios::escena() {
     QFETCH(const Guion*, guion);
     QFETCH(const Escena*, escena);
-    if (!escena->solo_memoria.empty()) QSKIP(escena->solo_memoria.c_str());
     ConductorQt conductor;
     const std::string fallo = ejecuta(*guion, *escena, conductor);
     QVERIFY2(fallo.empty(), (fallo + "\n  in the scene: " + escena->nombre).c_str());
