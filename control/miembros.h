@@ -147,7 +147,7 @@ inline constexpr std::array<Miembro, 57> MIEMBROS{{
     {12, "crea_una_fila", 0x60030023, Metodo, {}, NADA, {6, 9}},
     {13, "Copiar_Todo", 0x60030038, Metodo, {}, NADA},
     {14, "Copiar_todo_Excel", 0x60030039, Metodo, {}, NADA},
-    {15, "Tablero_Lee_Formato_Win", 0x6003006c, Metodo, {ref("t_apli", Str), ref("t_cap", Str)}, NADA, {9}},
+    {15, "Tablero_Lee_Formato_Win", 0x6003006c, Metodo, {ref("t_apli", Str), ref("t_cap", Str)}, NADA},
     {16, "Tablero_Graba_Formato_Win", 0x6003006d, Metodo, {ref("t_apli", Str), ref("t_cap", Str)}, NADA,
         TODOS},
     {17, "Tablero_establece_Formato", 0x6003006e, Metodo, {}, NADA, {6, 9}},
