@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The table's entry in the widget box. The form that a dropped table begins with (tabla_nueva.ui) names
-// every property: the editor keeps those it has been told of, and of the others only what was changed.
+// every property: the editor keeps those it has been told of, and of the others only what was changed. Its
+// header string gives the columns a width, which they have none of before a host sets formats.
 #include "qt/designer/complemento_tabla.h"
 
 #include "qt/designer/textos.h"

@@ -56,6 +56,7 @@ private slots:
     void una_propiedad_no_deshace_las_otras();
     void el_complemento_dice_que_es();
     void la_tabla_soltada_en_una_forma_se_usa();
+    void la_tabla_soltada_se_ve_con_todas_sus_columnas();
     void el_ancho_cambiado_por_la_ventana_se_guarda();
 
 private:
@@ -219,6 +220,18 @@ void PruebaDisenador::la_tabla_soltada_en_una_forma_se_usa() {
     for (const char cifra : {'1', '2'}) QTest::keyClick(forma.windowHandle(), cifra);
     QTest::keyClick(forma.windowHandle(), Qt::Key_Return);
     QCOMPARE(tabla->tabla().TextMatrix(1, 1), std::string("12"));
+}
+
+void PruebaDisenador::la_tabla_soltada_se_ve_con_todas_sus_columnas() {
+    const auto forma = carga(complemento()->domXml().toUtf8());
+    const auto* tabla = qobject_cast<TablaWidget*>(forma.get());
+    QVERIFY(tabla != nullptr);
+    const Tablero& t = tabla->tabla().tablero();
+    QCOMPARE(t.Cols(), 5);
+    QCOMPARE(t.ColWidth(0), 5 * 120);
+    for (int col = 1; col < 5; ++col) QCOMPARE(t.ColWidth(col), 13 * 120);
+    QCOMPARE(t.TextMatrix(0, 4), std::string_view("Columna 4    "));
+    QVERIFY(t.ColWidth(0) + 4 * t.ColWidth(4) <= tabla->Widht()); // no column beyond the right border
 }
 
 void PruebaDisenador::el_ancho_cambiado_por_la_ventana_se_guarda() {
