@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Works without a window and without Qt: this table, a vector of vectors of strings, the machine's limit.
-//   medicion_celdas tabla|vectores|limite celdas|pega|fichero|propias ROWS
+//   medicion_celdas tabla|vectores|limite celdas|columnas|pega|fichero|propias ROWS
 // `propias`: what only this table does. scripts/mide runs it.
 #include "limites.h"
 #include "obras.h"
@@ -50,7 +50,7 @@ void mide_propias(const Medidor& m, int filas) {
         c.tabla().MergeCol(4, false);
     });
     m.varias("arrastra_ancho", 20, [&] { c.tabla().mandos().arrastra_borde(2, 900 + ++n % 100); });
-    m.una("colorea", [&] { c.tabla().Color_Columna(3, T_colores::Rojo); });
+    c.colorea(2);
     m.una("sin_color", [&] { c.tabla().tablero_sin_color(); });
     mide_formatos(m, c);
     mide_renumera(m, c, filas);

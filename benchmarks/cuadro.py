@@ -26,6 +26,11 @@ OBRAS = [
     ("pega", "paste the block, commas to points, reals formatted", "ms", 1),
     ("copia", "copy the whole table to one text", "ms", 1),
     ("suma", "sum of two columns into a third, formatted", "ms", 1),
+    ("resta", "difference of two columns into a third", "ms", 1),
+    ("parcial", "difference of each row to the one above", "ms", 1),
+    ("numeros", "a column of reals out as an array", "ms", 1),
+    ("pon_numeros", "an array of numbers into a column", "ms", 1),
+    ("colorea", "colour a column", "ms", 1),
     ("graba", "save, without waiting for the disk", "ms", 1),
     ("carga", "load", "ms", 1),
     ("formatos_carga", "load, with formats of numbers applied", "ms", 1),
@@ -37,7 +42,6 @@ OBRAS = [
     ("formatea", "formats: one column gets other decimals", "ms", 1),
     ("formatea_otra_vez", "formats applied again, as the column editor does", "ms", 1),
     ("pega_una", "paste one cell", "us", 1000),
-    ("colorea", "colour a column", "ms", 1),
     ("sin_color", "take all colours away", "ms", 1),
     ("elige_todo", "select all rows", "us", 1000),
     ("funde", "merge a column and back", "us", 1000),
@@ -52,13 +56,13 @@ OBRAS = [
 
 # heading, program, its first argument, groups
 CONCURSANTES = [
-    ("this table", "celdas", "tabla", ["celdas", "pega", "fichero", "propias"]),
+    ("this table", "celdas", "tabla", ["celdas", "columnas", "pega", "fichero", "propias"]),
     ("this table", "ventanas_qt", "tabla", ["ventana", "arranque"]),
-    ("QTableWidget", "ventanas_qt", "qtablewidget", ["celdas", "pega", "fichero", "ventana", "arranque"]),
-    ("QStandardItemModel", "ventanas_qt", "qstandarditemmodel", ["celdas", "pega", "fichero", "ventana", "arranque"]),
-    ("wxGrid", "rejilla_wx", "wxgrid", ["celdas", "pega", "fichero"]),
-    ("vectors", "celdas", "vectores", ["celdas", "pega", "fichero"]),
-    ("limit", "celdas", "limite", ["celdas", "pega", "fichero"]),
+    ("QTableWidget", "ventanas_qt", "qtablewidget", ["celdas", "columnas", "pega", "fichero", "ventana", "arranque"]),
+    ("QStandardItemModel", "ventanas_qt", "qstandarditemmodel", ["celdas", "columnas", "pega", "fichero", "ventana", "arranque"]),
+    ("wxGrid", "rejilla_wx", "wxgrid", ["celdas", "columnas", "pega", "fichero"]),
+    ("vectors", "celdas", "vectores", ["celdas", "columnas", "pega", "fichero"]),
+    ("limit", "celdas", "limite", ["celdas", "columnas", "pega", "fichero"]),
     ("limit", "ventanas_qt", "limite", ["ventana", "arranque"]),
 ]
 PARES = ["QTableWidget", "QStandardItemModel", "wxGrid", "vectors"]

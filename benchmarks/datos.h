@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The input that every contestant of a measurement gets: rows of ten columns, whole number, real with
 // three decimals, short text, list value and empty, twice; 6.6 bytes of text a cell on average.
-// Main names: DatosMedida, datos.
+// Main names: DatosMedida, datos, llena.
 #pragma once
 
 #include <algorithm>
@@ -82,6 +82,14 @@ private:
 inline const DatosMedida& datos() {
     static const DatosMedida d;
     return d;
+}
+
+/// All cells of a contestant, row by row.
+template <class C>
+void llena(C& c, int filas) {
+    c.filas(filas);
+    for (int f = 0; f < filas; ++f)
+        for (int col = 0; col < COLUMNAS; ++col) c.pon(f, col, datos().celda(f, col));
 }
 
 } // namespace Qlt4_Tabla::medida

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What the machine needs for the unavoidable part of each work: the bytes copied into fresh pages, looked
-// at once, written to a file or read from it; numbers converted and nothing else.
+// at once, written to a file or read from it; for whole columns benchmarks/columnas.h.
 // Main name: mide_limites.
 #pragma once
 
@@ -33,16 +33,6 @@ inline void mira(const std::string& bytes) {
     usa(suma);
 }
 
-inline void mide_limite_suma(const Medidor& m, int filas) {
-    m.una("suma", [filas] {
-        char cifras[400];
-        for (int f = 0; f < filas; ++f)
-            usa(con_tres_decimales(
-                numero(datos().celda(f, COL_REAL)) + numero(datos().celda(f, COL_REAL2)), cifras)
-                    .size());
-    });
-}
-
 inline void mide_limites(const Medidor& m, const std::string& grupo, int filas) {
     const std::string bloque = datos().bloque(filas, ',');
     const std::size_t bytes = datos().bytes(filas);
@@ -53,13 +43,13 @@ inline void mide_limites(const Medidor& m, const std::string& grupo, int filas) 
         m.una("llena", [&] { sitio = copia_de(textos); });
         m.una("lee", [&] { mira(textos); });
         m.una("copia", [&] { sitio = copia_de(bloque); });
-        mide_limite_suma(m, filas);
         const std::string fila = textos.substr(0, 66);
         std::string todas;
         todas.reserve(100'000);
         m.varias("anade", 1000, [&] { todas += fila; });
         m.varias("inserta_borra", 1000, [&] { std::memmove(sitio.get() + 66, sitio.get(), 8192); });
     }
+    if (grupo == "columnas") mide_limite_columnas(m, filas);
     if (grupo == "pega") m.una("pega", [&] { mira(bloque); });
     if (grupo == "fichero") {
         const FicheroPasajero fichero;

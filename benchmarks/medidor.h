@@ -8,6 +8,7 @@
 #include <ctime>
 #include <fstream>
 #include <malloc.h>
+#include <stdexcept>
 #include <string>
 
 namespace Qlt4_Tabla::medida {
@@ -41,6 +42,10 @@ inline double memoria(const std::string& cual) {
 }
 
 inline void olvida_maximo() { std::ofstream("/proc/self/clear_refs") << 5; }
+
+inline void exige(bool bien, const char* que) {
+    if (!bien) throw std::runtime_error(que);
+}
 
 class Medidor {
 public:

@@ -12,6 +12,7 @@
 
 #include <array>
 #include <filesystem>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -120,10 +121,32 @@ public:
     void carga(const std::string& ruta) { tabla_.Tablero_Leer(ruta); }
 
     void suma(int a, int b, int r) {
-        tabla_.FormatoColumnas(static_cast<std::int16_t>(r + 1), false, false, T_formato::Real__, 3,
-            T_Alineacion::Drcha, T_Accion::Nada__, 10, "Suma");
+        columna_de_reales(r);
         tabla_.m_Sumar_dos_ColumnasAyB(a + 1, b + 1, r + 1);
     }
+
+    void resta(int a, int b, int r) {
+        columna_de_reales(r);
+        tabla_.m_Restar_dos_ColumnasA_B(a + 1, b + 1, r + 1);
+    }
+
+    void parcial(int a, int r) {
+        columna_de_reales(r);
+        tabla_.m_Diferencia_Parcial_1Columna(a + 1, r + 1);
+    }
+
+    [[nodiscard]] Matriz<double> numeros(int a) {
+        Matriz<double> m;
+        tabla_.m_Obten_Matriz_Numerica_de_columna(a + 1, m);
+        return m;
+    }
+
+    void pon_numeros(int a, std::span<const double> numeros) {
+        columna_de_reales(a);
+        tabla_.m_Asigna_Matriz_Numerica_a_Columna(a + 1, numeros);
+    }
+
+    void colorea(int c) { tabla_.Color_Columna(c + 1, T_colores::Rojo); }
 
     // As a user does: a key opens the box, the rest of the text, Enter writes and advances.
     void escribe_como_usuario(int f, int c, const std::string& s) {
@@ -139,6 +162,11 @@ public:
     [[nodiscard]] bool sin_mensajes() const { return p_.mensajes.vistos.empty(); }
 
 private:
+    void columna_de_reales(int c) {
+        tabla_.FormatoColumnas(static_cast<std::int16_t>(c + 1), false, false, T_formato::Real__, 3,
+            T_Alineacion::Drcha, T_Accion::Nada__, 10, "Suma");
+    }
+
     VistaNula vista_;
     FicherosSinVaciar ficheros_;
     PortapapelesMedida portapapeles_;

@@ -130,15 +130,37 @@ public:
     }
 
     void suma(int a, int b, int r) {
-        char cifras[400];
-        for (std::size_t f = 0; f < v_.size(); ++f) {
-            const int fila = static_cast<int>(f);
-            celda(fila, r) = con_tres_decimales(numero(celda(fila, a)) + numero(celda(fila, b)), cifras);
-        }
+        calcula(r, [=, this](int f) { return numero(celda(f, a)) + numero(celda(f, b)); });
+    }
+
+    void resta(int a, int b, int r) {
+        calcula(r, [=, this](int f) { return numero(celda(f, a)) - numero(celda(f, b)); });
+    }
+
+    void parcial(int a, int r) {
+        calcula(r, [=, this](int f) { return f == 0 ? 0 : numero(celda(f, a)) - numero(celda(f - 1, a)); });
+    }
+
+    [[nodiscard]] std::vector<double> numeros(int a) const {
+        std::vector<double> v;
+        v.reserve(v_.size());
+        for (const Fila& fila : v_) v.push_back(numero(fila[static_cast<std::size_t>(a)]));
+        return v;
+    }
+
+    void pon_numeros(int a, const std::vector<double>& v) {
+        calcula(a, [&v](int f) { return v[static_cast<std::size_t>(f)]; });
     }
 
 private:
     using Fila = std::vector<std::string>;
+
+    template <class Cuenta>
+    void calcula(int r, const Cuenta& cuenta) {
+        char cifras[400];
+        for (int f = 0; f < static_cast<int>(v_.size()); ++f)
+            celda(f, r) = con_tres_decimales(cuenta(f), cifras);
+    }
 
     std::string& celda(int f, int c) { return v_[static_cast<std::size_t>(f)][static_cast<std::size_t>(c)]; }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Works on a window of 1200 x 800, painted each time: this table, Qt's own, a bare window; and Qt's own tables
 // in the works without a window.
-//   medicion_ventanas_qt tabla|qtablewidget|qstandarditemmodel|limite ventana|arranque|celdas|pega|fichero ROWS
+//   medicion_ventanas_qt tabla|qtablewidget|qstandarditemmodel|limite ventana|arranque|celdas|columnas|pega|fichero ROWS
 // `arranque`: from the program's start until an empty table is painted. scripts/mide runs it.
 #include "obras.h"
 #include "qt/tabla_widget.h"
