@@ -14,13 +14,13 @@ using namespace Qlt4_Tabla;
 
 namespace {
 
-struct Caso {
+struct CasoError {
     NumError numero;
     int entero;
     const char* descripcion;
 };
 
-constexpr Caso casos[] = {
+constexpr CasoError casos[] = {
     {NumError::LlamadaNoValida, 5, "Llamada a procedimiento o argumento no válidos"},
     {NumError::Desbordamiento, 6, "Desbordamiento"},
     {NumError::SinMemoria, 7, "Memoria insuficiente"},
@@ -42,7 +42,7 @@ constexpr Caso casos[] = {
 } // namespace
 
 TEST(Error, cada_numero_tiene_su_descripcion) {
-    for (const Caso& caso : casos) {
+    for (const CasoError& caso : casos) {
         const Error error(caso.numero);
         EXPECT_EQ(error.numero(), caso.entero);
         EXPECT_EQ(error.descripcion(), caso.descripcion);

@@ -11,7 +11,7 @@ using namespace std::string_literals;
 
 namespace {
 
-struct Caso {
+struct CasoLineas {
     std::string entra;
     std::string sale;
 };
@@ -24,7 +24,7 @@ std::size_t busca_despacio(std::string_view texto, std::size_t desde) {
 } // namespace
 
 TEST(CierraLineas, toda_linea_acaba_en_CR_LF) {
-    const Caso casos[] = {
+    const CasoLineas casos[] = {
         {"", ""},
         {"a", "a\r\n"},
         {"a\tb", "a\tb\r\n"},
@@ -49,7 +49,7 @@ TEST(CierraLineas, toda_linea_acaba_en_CR_LF) {
         {"año\nñ", "año\r\nñ\r\n"},
         {"a\0b\n"s, "a\0b\r\n"s},
     };
-    for (const Caso& c : casos) {
+    for (const CasoLineas& c : casos) {
         EXPECT_EQ(cierra_lineas(c.entra), c.sale) << c.entra;
         EXPECT_EQ(cierra_lineas(c.sale), c.sale) << c.entra;
     }

@@ -15,14 +15,14 @@ using namespace std::string_literals;
 
 namespace {
 
-struct Caso {
+struct CasoLectura {
     std::string texto;
     double valor;
 };
 
 template <std::size_t N>
-void espera_val(const Caso (&casos)[N]) {
-    for (const Caso& caso : casos) EXPECT_EQ(Val(caso.texto), caso.valor) << '"' << caso.texto << '"';
+void espera_val(const CasoLectura (&casos)[N]) {
+    for (const CasoLectura& caso : casos) EXPECT_EQ(Val(caso.texto), caso.valor) << '"' << caso.texto << '"';
 }
 
 constexpr double infinito = std::numeric_limits<double>::infinity();
@@ -152,8 +152,8 @@ TEST(Val, siempre_da_un_numero_finito) {
 }
 
 TEST(NumeroDeTexto, lee_un_texto_que_es_todo_numero) {
-    for (const Caso& caso :
-        {Caso{"12", 12}, {" 12 ", 12}, {"\t-2.5", -2.5}, {"2,5", 2.5}, {"1e3", 1000}, {"1D3", 1000},
+    for (const CasoLectura& caso :
+        {CasoLectura{"12", 12}, {" 12 ", 12}, {"\t-2.5", -2.5}, {"2,5", 2.5}, {"1e3", 1000}, {"1D3", 1000},
             {".5", 0.5}, {"5.", 5}, {"&HFF", 255}, {"&HFFFF&", 65535}, {"+5", 5}, {"1e-400", 0},
             {"1e-99999999999999999999", 0}, {"0." + std::string(400, '0') + "1", 0}, {"-0", 0}})
         EXPECT_EQ(numero_de_texto(caso.texto), caso.valor) << caso.texto;
@@ -173,10 +173,10 @@ TEST(NumeroDeTexto, fuera_de_un_doble_error_6) {
 }
 
 TEST(Entero16DeTexto, redondea_las_mitades_al_par) {
-    for (const Caso& caso : {Caso{"2.5", 2}, {"3.5", 4}, {"-2.5", -2}, {"-3.5", -4}, {"0.5", 0}, {"-0.5", 0},
-             {"1.5", 2}, {"2.51", 3}, {"2.49", 2}, {"-2.51", -3}, {" 12 ", 12}, {"7,6", 8}, {"&HFFFF", -1},
-             {"1e2", 100}, {"32767.4", 32767}, {"-32768.5", -32768}, {"32767", 32767}, {"-32768", -32768},
-             {"2.500000000000001", 3}, {"0.49999999999999994", 0}})
+    for (const CasoLectura& caso : {CasoLectura{"2.5", 2}, {"3.5", 4}, {"-2.5", -2}, {"-3.5", -4}, {"0.5", 0},
+             {"-0.5", 0}, {"1.5", 2}, {"2.51", 3}, {"2.49", 2}, {"-2.51", -3}, {" 12 ", 12}, {"7,6", 8},
+             {"&HFFFF", -1}, {"1e2", 100}, {"32767.4", 32767}, {"-32768.5", -32768}, {"32767", 32767},
+             {"-32768", -32768}, {"2.500000000000001", 3}, {"0.49999999999999994", 0}})
         EXPECT_EQ(entero16_de_texto(caso.texto), caso.valor) << caso.texto;
 }
 

@@ -13,7 +13,7 @@ namespace {
 
 using Avisos = std::vector<std::string>;
 
-struct UnaImagen final : Imagen {};
+struct ImagenAvisada final : Imagen {};
 
 class Avisos_de_rejilla : public testing::Test {
 protected:
@@ -135,7 +135,7 @@ TEST_F(Avisos_de_rejilla, estrechar_una_columna_puede_desplazar) {
 }
 
 TEST_F(Avisos_de_rejilla, colores_e_imagenes) {
-    const auto imagen = std::make_shared<UnaImagen>();
+    const auto imagen = std::make_shared<ImagenAvisada>();
     EXPECT_EQ(de([&] { t.color_fondo({1, 1, 3, 2}, 5); }), Avisos({"celdas 1 1 3 2"}));
     EXPECT_EQ(de([&] { t.color_fondo({1, 1, 3, 2}, 5); }), Avisos());
     EXPECT_EQ(de([&] { t.color_texto({1, 1, 1, 1}, 5); }), Avisos({"celdas 1 1 1 1"}));

@@ -2,6 +2,7 @@
 // The files of the machine: what is read and written, which error each trouble gives, and what a full disk,
 // a missing permission or a sudden end leave behind.
 #include "headless/ficheros_disco.h"
+#include "tests/base/error_de.h"
 #include "tests/headless/carpeta_de_prueba.h"
 
 #include <gmock/gmock.h>
@@ -42,15 +43,6 @@ protected:
         throw std::system_error(std::make_error_code(fallo));
     }
 };
-
-int error_de(const std::function<void()>& trabajo) {
-    try {
-        trabajo();
-    } catch (const Error& e) {
-        return e.numero();
-    }
-    return 0;
-}
 
 mode_t permisos(const std::string& ruta) {
     struct stat s {};

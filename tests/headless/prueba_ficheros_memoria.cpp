@@ -2,6 +2,7 @@
 // Files and file dialog in memory: the same errors as the machine's, failures on request.
 #include "headless/dialogo_fichero_memoria.h"
 #include "headless/ficheros_memoria.h"
+#include "tests/base/error_de.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -14,15 +15,6 @@ namespace Qlt4_Tabla {
 namespace {
 
 using testing::ElementsAre;
-
-int error_de(const std::function<void()>& trabajo) {
-    try {
-        trabajo();
-    } catch (const Error& e) {
-        return e.numero();
-    }
-    return 0;
-}
 
 class PruebaMemoria : public testing::Test {
 protected:
