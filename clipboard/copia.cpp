@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <span>
 #include <string_view>
@@ -67,7 +68,7 @@ private:
     std::string linea_;
 };
 
-std::string bloque_en_texto(const Tablero& t, const Bloque& b, FormaCelda forma, bool coma) {
+std::string bloque_en_texto(const Tablero& t, const Bloque& b, FormaCelda forma, bool coma, Avance avance) {
     std::string texto;
     if (b.col1 > b.col2) return texto;
     std::vector<std::string_view> celdas(static_cast<std::size_t>(b.col2 - b.col1) + 1);
@@ -80,6 +81,7 @@ std::string bloque_en_texto(const Tablero& t, const Bloque& b, FormaCelda forma,
         }
         if (fila < t.Rows() && b.col2 < t.Cols()) t.almacen().lee_fila(fila, b.col1, celdas);
         texto += linea.de(celdas);
+        avance.hasta(fila - b.fila1 + 1);
     }
     return texto;
 }
@@ -92,14 +94,16 @@ void permite_pegar(EstadoTabla& e) {
 
 void copia_bloque(EstadoTabla& e, const Bloque& bloque, FormaCelda forma) {
     refresca_ComaDecimal(e);
-    e.plataforma.portapapeles.escribe(texto_de_bloque(e.tablero, bloque, forma, e.ComaDecimal));
+    const std::int64_t filas = std::int64_t{bloque.fila2} - bloque.fila1 + 1;
+    const Avance avance(e.plataforma.mensajes, textos::copiando, filas);
+    e.plataforma.portapapeles.escribe(texto_de_bloque(e.tablero, bloque, forma, e.ComaDecimal, avance));
 }
 
 // The selection is only touched when the text is on the clipboard.
 void copia_todo(EstadoTabla& e, const Bloque& bloque) {
     Tablero& t = e.tablero;
     termina_mensaje(e);
-    const RelojDeArena reloj(e.plataforma.mensajes);
+    const RelojDeArena reloj(e);
     copia_bloque(e, bloque, FormaCelda::Doblada);
     permite_pegar(e);
     if (t.Rows() > 0 && t.Cols() > 0) t.selecciona(t.Row(), t.Col(), t.Row(), t.Col());
@@ -107,13 +111,14 @@ void copia_todo(EstadoTabla& e, const Bloque& bloque) {
 
 } // namespace
 
-std::string texto_de_bloque(const Tablero& t, const Bloque& bloque, FormaCelda forma, bool coma) {
-    return con_memoria([&] { return bloque_en_texto(t, bloque, forma, coma); });
+std::string texto_de_bloque(
+    const Tablero& t, const Bloque& bloque, FormaCelda forma, bool coma, const Avance& avance) {
+    return con_memoria([&] { return bloque_en_texto(t, bloque, forma, coma, avance); });
 }
 
 bool Copiar_Seleccion(EstadoTabla& e, std::int16_t Modo) {
     termina_mensaje(e);
-    const RelojDeArena reloj(e.plataforma.mensajes);
+    const RelojDeArena reloj(e);
     bool copiado = false;
     sin_errores([&] {
         const bool conocido = Modo == 0 || Modo == 1;

@@ -5,6 +5,7 @@
 // Main names: Copiar_Seleccion, Copiar_Tabla, mn_copiar_todo_y_cabezera, texto_de_bloque.
 #pragma once
 
+#include "core/avance.h"
 #include "core/estado_tabla.h"
 
 #include <cstdint>
@@ -20,9 +21,10 @@ enum class FormaCelda {
 };
 
 /// The block of text of a rectangle; one without rows or without columns has none. Cells outside the grid add
-/// nothing. `coma`: the first point of a cell becomes a comma. No memory: error 7.
+/// nothing. `coma`: the first point of a cell becomes a comma. `avance` counts the rows. No memory:
+/// error 7.
 [[nodiscard]] std::string texto_de_bloque(
-    const Tablero& t, const Bloque& bloque, FormaCelda forma, bool coma);
+    const Tablero& t, const Bloque& bloque, FormaCelda forma, bool coma, const Avance& avance = {});
 
 /// Copies the selection and enables the paste entries. `Modo` 0 and 1 do the same; any other value leaves the
 /// cells out. Errors are ignored; returns whether the text got onto the clipboard.

@@ -2,6 +2,8 @@
 // The data cells into a spreadsheet: clipboard/hoja.h.
 #include "clipboard/hoja.h"
 
+#include "clipboard/textos.h"
+#include "core/avance.h"
 #include "core/reglas_valor.h"
 #include "core/reloj_de_arena.h"
 #include "core/sin_errores.h"
@@ -37,7 +39,7 @@ private:
     bool tomadas_ = true;
 };
 
-void escribe_celdas(HojaCalculo& hoja, const Tablero& t, bool coma) {
+void escribe_celdas(HojaCalculo& hoja, const Tablero& t, bool coma, Avance avance) {
     if (t.Cols() < 2) return;
     std::vector<std::string_view> celdas(static_cast<std::size_t>(t.Cols()) - 1);
     for (int fila = 1; fila < t.Rows(); ++fila) {
@@ -47,19 +49,21 @@ void escribe_celdas(HojaCalculo& hoja, const Tablero& t, bool coma) {
             const bool cambia = coma && celda.find('.') != std::string_view::npos;
             hoja.escribe_celda(fila, col++, cambia ? std::string_view(Punto_a_Coma(celda)) : celda);
         }
+        avance.hasta(fila);
     }
 }
 
 } // namespace
 
 void Copiar_todo_Excel(EstadoTabla& e) {
-    const RelojDeArena reloj(e.plataforma.mensajes);
+    const RelojDeArena reloj(e);
     HojaCalculo& hoja = e.plataforma.hoja_calculo;
     Referencias referencias(hoja);
     hoja.anade_libro();
     hoja.toma_primera_hoja();
     refresca_ComaDecimal(e);
-    escribe_celdas(hoja, e.tablero, e.ComaDecimal);
+    const Avance avance(e.plataforma.mensajes, textos::llevando_a_la_hoja, e.tablero.Rows() - 1);
+    escribe_celdas(hoja, e.tablero, e.ComaDecimal, avance);
     hoja.muestra();
     referencias.suelta();
 }

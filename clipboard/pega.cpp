@@ -6,6 +6,7 @@
 #include "base/lineas.h"
 #include "base/numeros.h"
 #include "clipboard/textos.h"
+#include "core/avance.h"
 #include "core/con_memoria.h"
 #include "core/formatos.h"
 #include "core/numeracion.h"
@@ -95,9 +96,11 @@ void asegura_filas(Tablero& t, int fila, std::int64_t lineas) {
     });
 }
 
-void escribe_lineas(Tablero& t, int fila, int col, LectorBloque& bloque) {
-    for (; bloque.quedan() && fila < t.Rows(); ++fila)
+void escribe_lineas(Tablero& t, int fila, int col, LectorBloque& bloque, Avance avance) {
+    for (int hechas = 0; bloque.quedan() && fila < t.Rows(); ++fila) {
         sin_errores([&] { t.pon_fila(fila, col, bloque.linea()); });
+        avance.hasta(++hechas);
+    }
 }
 
 /// Labels and view as after any change of the rows; the formats show the pasted numbers in their form.
@@ -133,7 +136,7 @@ void Pegar_Portapapeles(EstadoTabla& e, bool /*CambiarComa*/) {
         return;
     }
     e.revoca.Graba_Revoca();
-    const RelojDeArena reloj(e.plataforma.mensajes);
+    const RelojDeArena reloj(e);
     const int col = t.Col();
     const int fila = std::max(1, t.Row());
     const int columnas = t.Cols() - col;
@@ -145,7 +148,7 @@ void Pegar_Portapapeles(EstadoTabla& e, bool /*CambiarComa*/) {
     asegura_filas(t, fila, m.lineas);
     refresca_ComaDecimal(e);
     LectorBloque bloque(texto, !e.ComaDecimal, static_cast<std::size_t>(std::max(columnas, 0)));
-    escribe_lineas(t, fila, col, bloque);
+    escribe_lineas(t, fila, col, bloque, {e.plataforma.mensajes, textos::pegando, m.lineas});
     refresca(e);
 }
 

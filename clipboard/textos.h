@@ -20,6 +20,11 @@ inline constexpr std::string_view titulo_tabla_copiada = "Copiar todo";
 inline constexpr std::string_view sin_texto = "No hay texto en el portapapeles";
 
 // The question before fields are lost, around their count, the columns there are, and how many too few.
+// What a long command is doing, in the strip below the table.
+inline constexpr std::string_view copiando = "Copiando";
+inline constexpr std::string_view pegando = "Pegando";
+inline constexpr std::string_view llevando_a_la_hoja = "Copiando a la hoja de cálculo";
+
 inline constexpr std::string_view titulo_faltan_columnas = "No coinciden el nº de columnas:";
 inline constexpr std::string_view antes_de_campos = "Hay seleccionadas ";
 inline constexpr std::string_view antes_de_columnas = " columnas para copiarlas en ";

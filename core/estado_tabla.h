@@ -46,6 +46,7 @@ struct TABLA_API EstadoTabla {
     bool especialPuntos = false; ///< special-points mode
     bool edicionColumnasOff = false; ///< the toolbar offers neither paste nor its gaps
     bool primeraEscritura = false; ///< the host has written a cell
+    int relojes = 0; ///< long commands at work, one within the other (core/reloj_de_arena.h)
     std::int32_t ultimaFilaRaton = -1; ///< cell of the previous click
     std::int32_t ultimaColRaton = -1;
 };

@@ -3,6 +3,7 @@
 #include "files/tabla_fichero.h"
 
 #include "base/utf8.h"
+#include "core/avance.h"
 #include "core/formatos.h"
 #include "core/numeracion.h"
 #include "core/reloj_de_arena.h"
@@ -52,12 +53,15 @@ void da_formato_a_desconocidas(EstadoTabla& e) {
 }
 
 /// Every row gets its own number, whatever stands in column 0 of the file.
-void pon_celdas(Tablero& t, const Leido& leido) {
+void pon_celdas(Tablero& t, const Leido& leido, Avance avance) {
     FilasTb0 filas(leido.bytes.vista(), leido.registro);
     t.pon_fila(0, 0, filas.siguiente());
     Numera_Filas(t);
     if (leido.registro.columnas == 1) return;
-    for (int fila = 1; fila < leido.registro.filas; ++fila) t.pon_fila(fila, 1, filas.siguiente().subspan(1));
+    for (int fila = 1; fila < leido.registro.filas; ++fila) {
+        t.pon_fila(fila, 1, filas.siguiente().subspan(1));
+        avance.hasta(fila);
+    }
 }
 
 class Redibujo {
@@ -81,7 +85,7 @@ void pon_en_tabla(EstadoTabla& e, const Leido& leido) {
     t.Cols(leido.registro.columnas);
     t.Rows(leido.registro.filas);
     da_formato_a_desconocidas(e);
-    pon_celdas(t, leido);
+    pon_celdas(t, leido, {e.plataforma.mensajes, textos::leyendo, leido.registro.filas - 1});
     const int fila = std::min(1, t.Rows() - 1);
     const int col = std::min(1, t.Cols() - 1);
     t.selecciona(fila, col, fila, col);
@@ -102,7 +106,7 @@ std::string prefijo(const EstadoTabla& e, std::string_view que) {
 } // namespace
 
 void lee_tabla(EstadoTabla& e, std::string_view nombre, const std::function<void()>& al_cambiar) {
-    const RelojDeArena reloj(e.plataforma.mensajes);
+    const RelojDeArena reloj(e);
     const Leido leido = lee_y_examina(e, nombre);
     al_cambiar();
     pon_en_tabla(e, leido);
@@ -110,7 +114,7 @@ void lee_tabla(EstadoTabla& e, std::string_view nombre, const std::function<void
 
 void lee_tabla_propia(EstadoTabla& e, std::string_view nombre, const std::function<void()>& al_cambiar) {
     {
-        const RelojDeArena reloj(e.plataforma.mensajes);
+        const RelojDeArena reloj(e);
         const Leido leido = lee_y_examina(e, nombre);
         // Compared as a file can hold it, so that a table always knows what it wrote itself.
         if (utf8::sin_blancos(leido.registro.subtitulo) == en_fichero(e.nombres.subtitulo())) {
@@ -127,7 +131,7 @@ void lee_tabla_propia(EstadoTabla& e, std::string_view nombre, const std::functi
 }
 
 void graba_tabla(EstadoTabla& e, std::string_view nombre) {
-    const RelojDeArena reloj(e.plataforma.mensajes);
+    const RelojDeArena reloj(e);
     const Bytes bytes = escribe_tb0(e.tablero, e.nombres.subtitulo(), e.Formatos[tb0::FORMATO_GUARDADO]);
     e.plataforma.ficheros.escribe_al_inicio(nombre, bytes.vista());
     e.Modificado = 0;

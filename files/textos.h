@@ -21,6 +21,10 @@ inline constexpr std::string_view el_fichero = "El fichero ";
 inline constexpr std::string_view no_es = "no es ";
 
 /// The unsaved-data question.
+// What a long command is doing, in the strip below the table.
+inline constexpr std::string_view leyendo = "Leyendo la tabla";
+inline constexpr std::string_view guardando = "Guardando la tabla";
+
 inline constexpr std::string_view aviso_perder_datos =
     "Si no ha grabado los datos ,se perderan.  ¿QUIERES SEGUIR?";
 // Its answers to the command that asks.

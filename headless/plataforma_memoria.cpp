@@ -31,6 +31,10 @@ void MensajesMemoria::puntero(Puntero nueva) {
     registro_->push_back("puntero " + std::to_string(static_cast<int>(nueva)));
 }
 
+void MensajesMemoria::avance(std::string_view que, int por_ciento) {
+    registro_->push_back("avance " + std::string(que) + ' ' + std::to_string(por_ciento));
+}
+
 void MarcoMemoria::pon_tamano(float ancho, float alto) {
     ++veces_tamano;
     ancho_ = std::max(ancho, 0.0F);

@@ -5,7 +5,7 @@
 //   "SelChange", "CambiaCasilla", "Salir", "ACambiadoValorCombo 2 3", "mensaje|16|titulo|texto", "pitido",
 //   "puntero 11", "propiedad Rows", "captura", "restaura 1", "ajuste application|section|key=value",
 //   "dialogo_fichero abrir|title|filter|folder|name|extension", "dialogo_color title",
-//   "dialogo_columnas title", "hoja muestra", "menu mn_raton raton"
+//   "dialogo_columnas title", "hoja muestra", "avance Pegando 45", "menu mn_raton raton"
 // Notices of view, labels, menus and sizes are kept or counted apart. Read on in vista_memoria.h and
 // editores_memoria.h.
 #pragma once
@@ -59,6 +59,7 @@ public:
     Respuesta mensaje(std::string_view texto, EstiloMensaje estilo, std::string_view titulo) override;
     void pitido() override;
     void puntero(Puntero nueva) override;
+    void avance(std::string_view que, int por_ciento) override;
 
 private:
     Registro* registro_;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Mensajes: message boxes, the beep and the screen's mouse pointer. A message box blocks until the user
+// Mensajes: message boxes, the beep, the screen's mouse pointer and how far a long command is. A message box blocks until the user
 // answers; the seam exists so that rules that ask can be run and tested without a person.
 #pragma once
 
@@ -32,6 +32,10 @@ public:
     virtual Respuesta mensaje(std::string_view texto, EstiloMensaje estilo, std::string_view titulo) = 0;
     virtual void pitido() = 0;
     virtual void puntero(Puntero forma) = 0;
+    /// What the command under the hourglass does ("Pegando") and how far it is, 0 to 100 per cent, at most
+    /// once for each. Shown below the table where the hourglass has stood for a second, painted at once and
+    /// without letting the user's events in; gone with the hourglass.
+    virtual void avance(std::string_view que, int por_ciento) = 0;
 };
 
 /// Shows nothing and answers every question with No.
@@ -44,6 +48,8 @@ public:
     void pitido() override {}
 
     void puntero(Puntero) override {}
+
+    void avance(std::string_view, int) override {}
 };
 
 } // namespace Qlt4_Tabla

@@ -21,6 +21,8 @@ namespace {
 
 QString a_q(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size())); }
 
+constexpr int PACIENCIA_MS = 1000; // how long a command may take without saying how far it is
+
 // Characters of the core are code points; QLineEdit counts UTF-16 units.
 int a_unidades(const QString& texto, int caracteres) {
     qsizetype i = 0;
@@ -250,10 +252,17 @@ void PuertosQt::puntero(Puntero forma) {
     const bool reloj = forma == Puntero::RelojDeArena;
     if (reloj == reloj_) return;
     reloj_ = reloj;
-    if (reloj)
+    if (reloj) {
+        espera_.start();
         QApplication::setOverrideCursor(Qt::WaitCursor);
-    else
+    } else {
         QApplication::restoreOverrideCursor();
+        widget_.oculta_avance();
+    }
+}
+
+void PuertosQt::avance(std::string_view que, int por_ciento) {
+    if (reloj_ && espera_.hasExpired(PACIENCIA_MS)) widget_.muestra_avance(a_q(que), por_ciento);
 }
 
 // --- SeparadorDecimal ---

@@ -13,6 +13,7 @@
 #include "qt/dialogo_fichero_qt.h"
 #include "qt/portapapeles_qt.h"
 
+#include <QElapsedTimer>
 #include <QLocale>
 #include <QPointer>
 
@@ -79,6 +80,7 @@ public:
     Respuesta mensaje(std::string_view texto, EstiloMensaje estilo, std::string_view titulo) override;
     void pitido() override;
     void puntero(Puntero forma) override;
+    void avance(std::string_view que, int por_ciento) override;
 
     // SeparadorDecimal
     [[nodiscard]] bool es_coma() const override;
@@ -118,6 +120,7 @@ private:
     DialogoColumnasQt dialogo_columnas_;
     std::optional<bool> coma_;
     bool reloj_ = false;
+    QElapsedTimer espera_; // since the hourglass stands
 };
 
 } // namespace Qlt4_Tabla

@@ -9,11 +9,14 @@
 #include "qt/lista_celda.h"
 #include "qt/menus_qt.h"
 #include "qt/puertos_qt.h"
+#include "qt/texto_qt.h"
+#include "qt/textos.h"
 #include "qt/vista_rejilla.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QProgressBar>
 #include <QVBoxLayout>
 
 namespace Qlt4_Tabla {
@@ -21,6 +24,7 @@ namespace Qlt4_Tabla {
 namespace {
 
 constexpr int MARGEN_TIRA_PX = 6;
+constexpr int ANCHO_LIBRE_AVANCE_PX = 60; // beside the text of the progress bar
 
 // The events of the core as the widget's signals.
 class EventosQt final : public __Tabla0 {
@@ -70,6 +74,7 @@ struct TablaWidget::Interior {
     QWidget* tira;
     QLabel* numero_filas;
     QLabel* mensaje;
+    QProgressBar* avance = nullptr; // since a command took long for the first time
 };
 
 TablaWidget::TablaWidget(QWidget* padre) : TablaWidget(Sustituye(), padre) {}
@@ -136,6 +141,27 @@ void TablaWidget::refresca_etiquetas() {
     QPalette p = palette();
     p.setColor(QPalette::WindowText, es_oscura(p) ? QColor(0xFF, 0x9A, 0x8A) : QColor(0xA8, 0x1C, 0x07));
     yo_->mensaje->setPalette(p);
+}
+
+// In the strip's right corner. The command goes on at once: nothing but the strip is painted, and no event
+// is let in.
+void TablaWidget::muestra_avance(const QString& que, int por_ciento) {
+    QProgressBar*& barra = yo_->avance;
+    if (barra == nullptr) {
+        barra = new QProgressBar(yo_->tira);
+        barra->setObjectName(QStringLiteral("avance"));
+        yo_->tira->layout()->addWidget(barra);
+    }
+    barra->setFormat(a_qstring(textos::formato_avance).arg(que));
+    barra->setMinimumWidth(fontMetrics().horizontalAdvance(barra->format()) + ANCHO_LIBRE_AVANCE_PX);
+    barra->setValue(por_ciento);
+    barra->show();
+    yo_->tira->layout()->activate();
+    yo_->tira->repaint();
+}
+
+void TablaWidget::oculta_avance() {
+    if (yo_->avance != nullptr) yo_->avance->hide();
 }
 
 void TablaWidget::changeEvent(QEvent* e) {

@@ -104,6 +104,8 @@ private:
     void refresca_barra();
     void enfoca_barra();
     void abre_menu(Menu menu, DondeMenu donde);
+    void muestra_avance(const QString& que, int por_ciento);
+    void oculta_avance();
 
     std::unique_ptr<Interior> yo_;
 };

@@ -34,6 +34,9 @@ inline constexpr std::string_view salir = "Salir";
 inline constexpr std::string_view ver_columna0 = "Ver numeración";
 inline constexpr std::string_view rejilla_columnas = "Columnas de la tabla";
 
+/// In the strip below the table: what a long command does and how far it is. %1 the command, %p the per cent.
+inline constexpr std::string_view formato_avance = "%1: %p %";
+
 /// A table without a title.
 inline constexpr std::string_view tabla = "Tabla";
 

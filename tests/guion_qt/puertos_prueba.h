@@ -30,6 +30,8 @@ public:
 
     void puntero(Puntero forma) override { memoria_.puntero(forma); }
 
+    void avance(std::string_view que, int por_ciento) override { memoria_.avance(que, por_ciento); }
+
 private:
     MensajesMemoria& memoria_;
     Registro& registro_;

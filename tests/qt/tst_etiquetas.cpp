@@ -2,6 +2,7 @@
 // The widget around the grid: labels, message boxes, events, sizes, decimal sign, several tables at once.
 #include "tests/qt/mesa_qt.h"
 
+#include <QProgressBar>
 #include <QSignalSpy>
 
 using namespace Qlt4_Tabla;
@@ -29,6 +30,7 @@ private slots:
     void dos_tablas_no_comparten_nada();
     void sin_columnas_o_sin_filas_se_pinta();
     void el_reloj_se_quita_con_la_tabla();
+    void un_trabajo_largo_dice_por_donde_va();
     void otra_letra_cambia_el_alto_de_las_filas();
 };
 
@@ -256,6 +258,47 @@ void TstEtiquetas::el_reloj_se_quita_con_la_tabla() {
         QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
     }
     QVERIFY(!QApplication::overrideCursor());
+}
+
+namespace {
+
+// Counts what a widget paints.
+class Pintadas final : public QObject {
+public:
+    explicit Pintadas(QWidget& w) { w.installEventFilter(this); }
+
+    int veces = 0;
+
+    bool eventFilter(QObject*, QEvent* e) override {
+        if (e->type() == QEvent::Paint) ++veces;
+        return false;
+    }
+};
+
+} // namespace
+
+void TstEtiquetas::un_trabajo_largo_dice_por_donde_va() {
+    Escucha e(nullptr);
+    e.tabla.resize(600, 300);
+    e.tabla.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&e.tabla));
+    e.mensajes->puntero(Puntero::RelojDeArena);
+    e.mensajes->avance("Pegando", 10);
+    QVERIFY(!e.tabla.findChild<QProgressBar*>(QStringLiteral("avance"))); // not within the first second
+    QTest::qSleep(1001); // no event is let in from here on
+    e.mensajes->avance("Pegando", 45);
+    auto* barra = e.tabla.findChild<QProgressBar*>(QStringLiteral("avance"));
+    QVERIFY(barra && barra->isVisible());
+    QCOMPARE(barra->text(), QStringLiteral("Pegando: 45 %"));
+    Pintadas pintadas(*barra);
+    e.mensajes->avance("Pegando", 46);
+    QVERIFY(pintadas.veces > 0);
+    e.mensajes->puntero(Puntero::Normal);
+    QVERIFY(!barra->isVisible());
+    e.mensajes->puntero(Puntero::RelojDeArena); // the next command has a second of its own
+    e.mensajes->avance("Pegando", 10);
+    QVERIFY(!barra->isVisible());
+    e.mensajes->puntero(Puntero::Normal);
 }
 
 void TstEtiquetas::otra_letra_cambia_el_alto_de_las_filas() {
