@@ -3,6 +3,7 @@
 #include "core/almacen_celdas.h"
 
 #include "core/indice_trozos.h"
+#include "core/reescritura.h"
 #include "core/textos_largos.h"
 #include "core/tramos_filas.h"
 
@@ -31,8 +32,6 @@ std::uint32_t asa_de(std::string_view bytes) {
     return asa;
 }
 
-bool es_largo(std::string_view texto) { return texto.size() >= LARGO; }
-
 } // namespace
 
 struct AlmacenCeldas::Interior {
@@ -43,7 +42,8 @@ struct AlmacenCeldas::Interior {
     mutable CifrasFila cifras{}; // of the row number given last
     enum class Altos { No, Si, Quiza };
     mutable Altos altos = Altos::No; // any row with a height of its own?
-    std::vector<std::uint8_t> fila_nueva; // kept for its memory
+    std::vector<std::uint8_t> fila_nueva; // this and `nuevas` are kept for their memory
+    Reescritura nuevas;
 
     [[nodiscard]] std::string_view texto(const CeldaGuardada& c, int fila, CifrasFila& cifras_fila) const {
         return c.contenido == Contenido::Texto ? c.bytes() : texto_no_guardado(c, fila, cifras_fila);
@@ -67,8 +67,6 @@ struct AlmacenCeldas::Interior {
     }
 
     bool escribe_fila(int fila, int col, std::span<const std::string_view> textos);
-    [[nodiscard]] std::span<const std::uint8_t> fila_con(
-        std::span<const std::uint8_t> vieja, int col, std::span<const std::string_view> textos);
     void numera(int desde, int hasta, FilasCambiadas& cambiadas);
     bool numera(Trozo& t, int i, int fila);
     void suelta_largos(int desde, int hasta, int col1, int col2);
@@ -92,18 +90,21 @@ void AlmacenCeldas::pon_filas(int n) {
 }
 
 void AlmacenCeldas::pon_columnas(int n) {
+    Interior& yo = para_cambiar();
     if (n < columnas_) {
-        yo_->suelta_largos(0, filas_ - 1, n, columnas_);
-        yo_->indice.recorre(0, filas_ - 1, [n](Trozo& t, int, int, int) { t.quita_columnas(n); });
-        if (n == 0) yo_->sin_numero.anade(0, filas_);
+        yo.suelta_largos(0, filas_ - 1, n, columnas_);
+        yo.indice.recorre(0, filas_ - 1, [n](Trozo& t, int, int, int) { t.quita_columnas(n); });
+        if (n == 0) yo.sin_numero.anade(0, filas_);
     }
     columnas_ = n;
 }
 
 // Reading
 
-std::string_view AlmacenCeldas::texto(int fila, int col) const {
-    return yo_->texto(yo_->celda(fila, col), fila, yo_->cifras);
+std::string_view AlmacenCeldas::busca_texto(int fila, int col) const {
+    const LugarFila l = yo_->indice.busca(fila);
+    if (!l.trozo->sin_textos()) leida_ = {fila, l.trozo->bytes_de(l.i)};
+    return yo_->texto(l.trozo->celda(l.i, col), fila, yo_->cifras);
 }
 
 void AlmacenCeldas::lee_fila(int fila, int col, std::span<std::string_view> textos) const {
@@ -124,7 +125,7 @@ bool AlmacenCeldas::iguales(int fila1, int col1, int fila2, int col2) const {
 // Writing
 
 bool AlmacenCeldas::pon_texto(int fila, int col, std::string_view texto) {
-    return yo_->escribe(fila, col, texto);
+    return para_cambiar().escribe(fila, col, texto);
 }
 
 std::string_view AlmacenCeldas::Interior::texto_no_guardado(
@@ -188,10 +189,11 @@ void AlmacenCeldas::Interior::guarda(
 
 bool AlmacenCeldas::pon_fila(int fila, int col, std::span<const std::string_view> textos) {
     if (textos.empty()) return false;
-    if (col != 0) return yo_->escribe_fila(fila, col, textos);
+    Interior& yo = para_cambiar();
+    if (col != 0) return yo.escribe_fila(fila, col, textos);
     const std::string primero(textos.front()); // writing the others may move it
-    const bool cambia = yo_->escribe_fila(fila, 1, textos.subspan(1));
-    return yo_->escribe(fila, 0, primero) || cambia;
+    const bool cambia = yo.escribe_fila(fila, 1, textos.subspan(1));
+    return yo.escribe(fila, 0, primero) || cambia;
 }
 
 // Cells from column 1 on. Short texts go in with the whole row; else cell by cell.
@@ -207,90 +209,82 @@ bool AlmacenCeldas::Interior::escribe_fila(int fila, int col, std::span<const st
         for (const std::string& t : copias) cambia = escribe(fila, col++, t) || cambia;
         return cambia;
     }
-    const auto nueva = fila_con(vieja, col, textos);
+    const auto columna = static_cast<std::uint32_t>(col);
+    if (const std::size_t cota = cota_fila(vieja, columna, textos); fila_nueva.size() < cota)
+        fila_nueva.resize(cota);
+    const std::span nueva(fila_nueva.data(), compon_fila(fila_nueva.data(), vieja, columna, textos));
     if (std::equal(nueva.begin(), nueva.end(), vieja.begin(), vieja.end())) return false;
     const LugarFila d = indice.para_escribir(fila, nueva.size());
-    d.trozo->pon_fila(d.i, nueva);
+    const std::array final{static_cast<std::uint32_t>(nueva.size())};
+    d.trozo->pon_filas(d.i, nueva, final);
     return true;
 }
 
-// The bytes of a row without long texts, with other texts from column `col` on.
-std::span<const std::uint8_t> AlmacenCeldas::Interior::fila_con(
-    std::span<const std::uint8_t> vieja, int col, std::span<const std::string_view> textos) {
-    constexpr std::size_t CABECERA = 5; // room for the longest one; it ends where the lengths begin
-    CabeceraFila c = lee_cabecera(vieja.data());
-    const auto col1 = static_cast<std::size_t>(col);
-    const std::size_t col2 = col1 + textos.size();
-    const std::uint8_t* const longitudes = vieja.data() + c.bytes;
-    const std::uint8_t* const viejos = longitudes + c.columnas;
-    const std::size_t tenia = c.columnas;
-    const std::size_t antes = std::min(col1, tenia);
-    const std::size_t despues = std::min(col2, tenia);
-    const auto bytes_hasta = [&](std::size_t n) {
-        return suma_bytes(longitudes, static_cast<std::uint32_t>(n), false);
-    };
-
-    std::size_t n = std::max(col2, tenia);
-    std::size_t bytes = CABECERA + n + bytes_hasta(c.columnas);
-    for (const std::string_view t : textos) bytes += t.size();
-    if (fila_nueva.size() < bytes) fila_nueva.resize(bytes);
-    std::uint8_t* const nuevas = fila_nueva.data() + CABECERA;
-    std::copy_n(longitudes, antes, nuevas);
-    std::transform(textos.begin(), textos.end(), nuevas + col1,
-        [](std::string_view t) { return static_cast<std::uint8_t>(t.size()); });
-    std::copy(longitudes + despues, longitudes + tenia, nuevas + col2);
-    if (tenia < col1) std::fill(nuevas + tenia, nuevas + col1, std::uint8_t{0});
-    while (n != 0 && nuevas[n - 1] == 0) --n;
-
-    std::uint8_t* p = std::copy_n(viejos, bytes_hasta(antes), nuevas + n);
-    for (const std::string_view t : textos) {
-        if (!t.empty()) std::memcpy(p, t.data(), t.size());
-        p += t.size();
-    }
-    p = std::copy(viejos + bytes_hasta(despues), viejos + bytes_hasta(tenia), p);
-    c.columnas = static_cast<std::uint32_t>(n);
-    std::uint8_t* const cabecera = nuevas - bytes_cabecera(c.columnas);
-    escribe_cabecera(cabecera, c);
-    return {cabecera, p};
+FilasCambiadas AlmacenCeldas::transforma(int col, int desde, int hasta, const CambioCelda& cambia) {
+    FilasCambiadas cambiadas;
+    while (desde <= hasta) desde = transforma_seguidas(col, desde, hasta, cambia, cambiadas);
+    return cambiadas;
 }
 
-FilasCambiadas AlmacenCeldas::transforma(
-    int col, int desde, int hasta, const std::function<bool(int, std::string_view, std::string&)>& cambia) {
-    FilasCambiadas cambiadas;
+// Rows from `fila` on to the end of their chunk or to the first one that must be written by itself; the next row.
+int AlmacenCeldas::transforma_seguidas(
+    int col, int fila, int hasta, const CambioCelda& cambia, FilasCambiadas& cambiadas) {
+    const LugarFila l = yo_->indice.busca(fila);
+    const int primera = fila - l.i;
+    const int fin = std::min(hasta + 1, primera + l.trozo->filas());
+    Reescritura& nuevas = yo_->nuevas;
+    nuevas.empieza(*l.trozo);
     std::string nuevo;
-    for (int fila = desde; fila <= hasta; ++fila) {
-        nuevo.clear();
-        if (cambia(fila, texto(fila, col), nuevo) && yo_->escribe(fila, col, nuevo))
+    try {
+        for (; fila < fin; ++fila) {
+            const std::string_view viejo = yo_->texto(l.trozo->celda(fila - primera, col), fila, yo_->cifras);
+            nuevo.clear();
+            if (!cambia(fila, viejo, nuevo)) continue;
+            const std::array<std::string_view, 1> uno{nuevo};
+            if (col != 0 && viejo == nuevo) continue;
+            if (col == 0 || !nuevas.pon(fila - primera, col, uno)) break;
             cambiadas.extiende(fila, fila);
+        }
+    } catch (...) {
+        para_cambiar();
+        nuevas.acaba();
+        throw;
     }
-    return cambiadas;
+    para_cambiar();
+    nuevas.acaba();
+    if (fila == fin) return fin;
+    if (yo_->escribe(fila, col, nuevo)) cambiadas.extiende(fila, fila);
+    return fila + 1;
 }
 
 // Rows
 
 void AlmacenCeldas::inserta(int fila, int n) {
     if (n <= 0) return;
-    yo_->indice.inserta(fila, n);
-    yo_->sin_numero.inserta(fila, n);
-    if (fila == 0) yo_->sin_numero.anade(n, n + 1); // what was row 0 may be a data row now
+    Interior& yo = para_cambiar();
+    yo.indice.inserta(fila, n);
+    yo.sin_numero.inserta(fila, n);
+    if (fila == 0) yo.sin_numero.anade(n, n + 1); // what was row 0 may be a data row now
     filas_ += n;
 }
 
 void AlmacenCeldas::borra(int fila, int n) {
     if (n <= 0) return;
-    yo_->suelta_largos(fila, fila + n - 1, 0, columnas_);
-    yo_->indice.borra(fila, n);
-    yo_->sin_numero.borra(fila, n);
-    yo_->filas_quitadas();
+    Interior& yo = para_cambiar();
+    yo.suelta_largos(fila, fila + n - 1, 0, columnas_);
+    yo.indice.borra(fila, n);
+    yo.sin_numero.borra(fila, n);
+    yo.filas_quitadas();
     filas_ -= n;
 }
 
 void AlmacenCeldas::borra_varias(std::span<const int> filas) {
-    if (yo_->largos.vivos() != 0)
-        for (const int fila : filas) yo_->suelta_largos(fila, fila, 0, columnas_);
-    yo_->indice.borra_varias(filas);
-    yo_->sin_numero.borra(filas);
-    yo_->filas_quitadas();
+    Interior& yo = para_cambiar();
+    if (yo.largos.vivos() != 0)
+        for (const int fila : filas) yo.suelta_largos(fila, fila, 0, columnas_);
+    yo.indice.borra_varias(filas);
+    yo.sin_numero.borra(filas);
+    yo.filas_quitadas();
     filas_ -= static_cast<int>(filas.size());
 }
 
@@ -312,11 +306,12 @@ void AlmacenCeldas::Interior::suelta_largos(int desde, int hasta, int col1, int 
 FilasCambiadas AlmacenCeldas::numera() {
     FilasCambiadas cambiadas;
     if (columnas_ == 0) return cambiadas;
-    for (const auto [desde, hasta] : yo_->sin_numero.tramos()) {
+    Interior& yo = para_cambiar();
+    for (const auto [desde, hasta] : yo.sin_numero.tramos()) {
         const int ultima = std::min(hasta, filas_) - 1;
-        if (desde <= ultima) yo_->numera(desde, ultima, cambiadas);
+        if (desde <= ultima) yo.numera(desde, ultima, cambiadas);
     }
-    yo_->sin_numero.vacia();
+    yo.sin_numero.vacia();
     return cambiadas;
 }
 
@@ -367,7 +362,7 @@ std::int32_t AlmacenCeldas::color_texto(int fila, int col) const {
 
 bool AlmacenCeldas::pon_color_texto(int fila1, int col1, int fila2, int col2, std::int32_t color) {
     const auto valor = color == 0 ? std::nullopt : std::optional(color);
-    return yo_->pinta(Adorno::ColorTexto, fila1, col1, fila2, col2, valor);
+    return para_cambiar().pinta(Adorno::ColorTexto, fila1, col1, fila2, col2, valor);
 }
 
 std::int32_t AlmacenCeldas::color_fondo(int fila, int col) const {
@@ -379,7 +374,7 @@ bool AlmacenCeldas::tiene_fondo(int fila, int col) const {
 }
 
 bool AlmacenCeldas::pon_color_fondo(int fila1, int col1, int fila2, int col2, std::int32_t color) {
-    return yo_->pinta(Adorno::ColorFondo, fila1, col1, fila2, col2, color);
+    return para_cambiar().pinta(Adorno::ColorFondo, fila1, col1, fila2, col2, color);
 }
 
 int AlmacenCeldas::alto(int fila) const {
@@ -388,11 +383,12 @@ int AlmacenCeldas::alto(int fila) const {
 
 bool AlmacenCeldas::pon_alto(int fila, int twips) {
     const auto valor = twips < 0 ? std::nullopt : std::optional(twips);
-    const bool cambia = yo_->pinta(Adorno::Alto, fila, 0, fila, 0, valor);
+    Interior& yo = para_cambiar();
+    const bool cambia = yo.pinta(Adorno::Alto, fila, 0, fila, 0, valor);
     if (valor)
-        yo_->altos = Interior::Altos::Si;
+        yo.altos = Interior::Altos::Si;
     else
-        yo_->filas_quitadas();
+        yo.filas_quitadas();
     return cambia;
 }
 
@@ -408,7 +404,8 @@ bool AlmacenCeldas::hay_altos() const {
 }
 
 std::size_t AlmacenCeldas::bytes() const {
-    return sizeof(Interior) + yo_->indice.bytes() + yo_->largos.bytes() + yo_->fila_nueva.capacity();
+    return sizeof(Interior) + yo_->indice.bytes() + yo_->largos.bytes() + yo_->fila_nueva.capacity() +
+        yo_->nuevas.bytes();
 }
 
 } // namespace Qlt4_Tabla

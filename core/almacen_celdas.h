@@ -14,6 +14,7 @@
 #pragma once
 
 #include "base/publico.h"
+#include "core/fila_leida.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -40,6 +41,11 @@ struct FilasCambiadas {
     }
 };
 
+/// `cambia(fila, texto, nuevo)` returns true when the cell takes the text it put into `nuevo` (empty before),
+/// false to leave it. It may read the store, where the rows above may still show their old texts in this column,
+/// and not write it.
+using CambioCelda = std::function<bool(int fila, std::string_view texto, std::string& nuevo)>;
+
 class TABLA_API AlmacenCeldas {
 public:
     AlmacenCeldas();
@@ -58,7 +64,10 @@ public:
 
     /// The text of a cell inside the grid (not checked). The view holds until the table changes or the
     /// text of another derived row number is asked for.
-    [[nodiscard]] std::string_view texto(int fila, int col) const;
+    [[nodiscard]] std::string_view texto(int fila, int col) const {
+        return leida_.tiene(fila, col) ? leida_.texto(col) : busca_texto(fila, col);
+    }
+
     /// The texts of neighbouring cells of one row from column `col` on, in one go.
     void lee_fila(int fila, int col, std::span<std::string_view> textos) const;
     /// True when the cell had another text. The text may be a view of this store.
@@ -66,11 +75,9 @@ public:
     /// Writes neighbouring cells of one row from column `col` on, in one go; the others stay. True when any
     /// had another text.
     bool pon_fila(int fila, int col, std::span<const std::string_view> textos);
-    /// Rewrites column `col` of rows `desde`..`hasta` in one pass: `cambia(fila, texto, nuevo)` returns true
-    /// when the cell takes the text it put into `nuevo` (empty before), false to leave it. It may read the
-    /// store and not write it. If it throws, the rows before stay rewritten and nothing is lost.
-    FilasCambiadas transforma(int col, int desde, int hasta,
-        const std::function<bool(int, std::string_view, std::string&)>& cambia);
+    /// Rewrites column `col` of rows `desde`..`hasta` in one pass. If `cambia` throws, the rows before stay
+    /// rewritten and nothing is lost.
+    FilasCambiadas transforma(int col, int desde, int hasta, const CambioCelda& cambia);
     /// Are the texts of two cells equal? Safe for two row numbers.
     [[nodiscard]] bool iguales(int fila1, int col1, int fila2, int col2) const;
 
@@ -104,8 +111,20 @@ public:
 
 private:
     struct Interior;
+
+    [[nodiscard]] std::string_view busca_texto(int fila, int col) const;
+    int transforma_seguidas(
+        int col, int fila, int hasta, const CambioCelda& cambia, FilasCambiadas& cambiadas);
+
+    // The way to every change.
+    Interior& para_cambiar() {
+        leida_ = {};
+        return *yo_;
+    }
+
     int filas_ = 0;
     int columnas_ = 0;
+    mutable FilaLeida leida_;
     std::unique_ptr<Interior> yo_;
 };
 

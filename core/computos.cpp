@@ -38,29 +38,35 @@ void exige_en_tablero(const Tablero& t, std::initializer_list<std::int32_t> colu
 
 double numero(const Tablero& t, int fila, int col) { return Valor_Numerico(t.TextMatrix(fila, col)); }
 
-// An invisible column stays so, also when its format ends in an error.
+// An invisible column stays so.
+void esconde(EstadoTabla& e, int col) {
+    if (formato(e, col).Invisible) e.tablero.ColWidth(col, 0);
+}
+
+// It stays so also when its format ends in an error.
 void aplica_formato(EstadoTabla& e, int col) {
-    const auto esconde = [&] {
-        if (formato(e, col).Invisible) e.tablero.ColWidth(col, 0);
-    };
     try {
         Tablero_Formato_Columna(e, col);
     } catch (...) {
-        esconde();
+        esconde(e, col);
         throw;
     }
-    esconde();
+    esconde(e, col);
 }
 
-// Writes into each data row what `resultado(row, old text, new text)` puts there.
+// Writes into each data row what `resultado(row, old text, new text)` puts there and applies the column's format.
+// Results that come from other columns are written in their last form at once.
 template <class Resultado>
-void escribe_columna(EstadoTabla& e, int col, const Resultado& resultado) {
+void escribe_columna(EstadoTabla& e, int col, bool de_otras, const Resultado& resultado) {
     const int ultima = e.tablero.Rows() - 1;
     if (ultima >= 1) refresca_ComaDecimal(e);
-    e.tablero.transforma_columna(col, 1, ultima, [&](int fila, std::string_view texto, std::string& nuevo) {
+    const CambioCelda cambia = [&](int fila, std::string_view texto, std::string& nuevo) {
         resultado(fila, texto, nuevo);
         return nuevo != texto;
-    });
+    };
+    if (de_otras && transforma_con_formato(e, col, cambia)) return esconde(e, col);
+    e.tablero.transforma_columna(col, 1, ultima, cambia);
+    aplica_formato(e, col);
 }
 
 enum class Operacion { Suma, Resta };
@@ -92,19 +98,18 @@ void opera_columnas(
     const Tablero& t = e.tablero;
     exige_en_tablero(t, {colA, colB, colResul});
     const RedibujoSuspendido suspendido(e.tablero);
-    std::string primero; // reading another cell may move a text
-    escribe_columna(e, colResul, [&](int fila, std::string_view, std::string& nuevo) {
-        primero = t.TextMatrix(fila, colA);
-        opera(primero, operacion, t.TextMatrix(fila, colB), nuevo);
+    const bool de_otras = colResul != colA && colResul != colB;
+    escribe_columna(e, colResul, de_otras, [&](int fila, std::string_view, std::string& nuevo) {
+        opera(t.TextMatrix(fila, colA), operacion, t.TextMatrix(fila, colB), nuevo);
     });
-    aplica_formato(e, colResul);
 }
 
 // Writes the differences; the rows of the negative ones into `negativas`.
 void escribe_diferencias(EstadoTabla& e, int columna, int colResul, std::vector<int>& negativas) {
     const bool en_si_misma = columna == colResul;
     double anterior = 0;
-    escribe_columna(e, colResul, [&](int fila, std::string_view texto, std::string& nuevo) {
+    escribe_columna(e, colResul, !en_si_misma, [&](int fila, std::string_view texto, std::string& nuevo) {
+        if (fila == 1) negativas.clear(); // it may be done twice
         const double actual = en_si_misma ? Valor_Numerico(texto) : numero(e.tablero, fila, columna);
         if (fila > 1) {
             const double diferencia = actual - anterior;
@@ -150,7 +155,6 @@ void diferencia_parcial(
         throw;
     }
     avisa();
-    aplica_formato(e, colResul);
 }
 
 } // namespace Qlt4_Tabla

@@ -2,7 +2,7 @@
 // One row of texts as a run of bytes: a header (number of stored columns and two flags), one length byte
 // a stored column, then the texts one after the other. Trailing empty cells are not stored. The length
 // byte LARGO stands for a text kept apart: the row then holds its BYTES_ASA bytes long handle instead.
-// Main names: CabeceraFila, lee_cabecera, escribe_cabecera, suma_bytes. Rows in chunks: core/trozo.h.
+// Main names: CabeceraFila, lee_cabecera, escribe_cabecera, suma_bytes, compon_fila. Rows in chunks: core/trozo.h.
 //
 // Header: first byte = bit 0 numerada, bit 1 largos, bits 2-6 the low bits of the column count; its bit 7
 // and that of the bytes after it say that seven more bits of the count follow.
@@ -12,6 +12,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <span>
+#include <string_view>
 
 namespace Qlt4_Tabla {
 
@@ -68,6 +70,9 @@ inline std::uint32_t escribe_cabecera(std::uint8_t* p, const CabeceraFila& c) {
     return longitud == LARGO ? BYTES_ASA : longitud;
 }
 
+/// Does the text stand apart?
+[[nodiscard]] inline bool es_largo(std::string_view texto) { return texto.size() >= LARGO; }
+
 /// Sum of the first `n` length bytes, at most 7; reads 8.
 [[nodiscard]] inline std::uint32_t suma_pocas(const std::uint8_t* longitudes, std::uint32_t n) {
     std::uint32_t suma = 0;
@@ -97,5 +102,14 @@ inline std::uint32_t escribe_cabecera(std::uint8_t* p, const CabeceraFila& c) {
 [[nodiscard]] inline std::uint32_t suma_bytes(const std::uint8_t* longitudes, std::uint32_t n, bool largos) {
     return n < 16 && !largos ? suma_hasta_15(longitudes, n) : suma_muchas(longitudes, n, largos);
 }
+
+/// Bytes that `compon_fila` may write at most.
+[[nodiscard]] std::size_t cota_fila(
+    std::span<const std::uint8_t> vieja, std::uint32_t col, std::span<const std::string_view> textos);
+
+/// Writes the row that `vieja` becomes with other texts from column `col` on; where it ends. None of the texts,
+/// old or new, stands apart. RELLENO bytes behind `vieja` must be readable.
+std::uint8_t* compon_fila(std::uint8_t* destino, std::span<const std::uint8_t> vieja, std::uint32_t col,
+    std::span<const std::string_view> textos);
 
 } // namespace Qlt4_Tabla

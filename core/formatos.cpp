@@ -7,9 +7,11 @@
 #include "base/error.h"
 #include "base/numeros.h"
 #include "core/reglas_valor.h"
+#include "core/sin_errores.h"
 #include "core/textos.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace Qlt4_Tabla {
@@ -91,31 +93,45 @@ void muestra_numero(std::string_view texto, int decimales, std::string& destino)
     destino.assign(cifras, escribe_numero(Valor_Numerico(texto), cifras, capacidad_numero));
 }
 
-/// Every number of the column in the form of its decimals; cells that have it already are left.
-void reformatea_numeros(EstadoTabla& e, int col, int decimales) {
+/// What applying its format does to the cells of a column; `nombre` tells two of them apart.
+struct FormaColumna {
+    std::string nombre;
+    CambioCelda da;
+};
+
+/// Every number in the form of its decimals; cells that have it already are left.
+FormaColumna forma_de_numeros(EstadoTabla& e, int decimales) {
     bool preguntado = false; // the separator, once a column instead of once a cell
-    e.tablero.da_forma(
-        col, "decimales" + Str(decimales), [&](int, std::string_view texto, std::string& nuevo) {
+    return {"decimales" + Str(decimales),
+        [&e, decimales, preguntado](int, std::string_view texto, std::string& nuevo) mutable {
             if (texto.empty()) return false;
             if (!std::exchange(preguntado, true)) refresca_ComaDecimal(e);
             if (tiene_forma_de_numero(texto, decimales)) return false;
             muestra_numero(texto, decimales, nuevo);
             return nuevo != texto;
-        });
+        }};
 }
 
-/// Every value of the column becomes the first of its list; error 9 at a value when there is none.
-void reinicia_lista(EstadoTabla& e, int col) {
-    const Matriz<std::string>& valores = e.listas[static_cast<std::size_t>(col)].Col;
+/// Every value becomes the first of its list; error 9 at a value when there is none.
+FormaColumna forma_de_lista(const Matriz<std::string>& valores) {
     const bool hay = !valores.empty() && valores.LBound() <= 0 && valores.UBound() >= 0;
-    const std::string forma = hay ? "lista:" + valores[0] : "lista";
-    e.tablero.da_forma(col, forma, [&](int, std::string_view texto, std::string& nuevo) {
-        if (texto.empty()) return false;
-        const std::string& primero = valores[0];
-        if (texto == primero) return false;
-        nuevo = primero;
-        return true;
-    });
+    return {
+        hay ? "lista:" + valores[0] : "lista", [&valores](int, std::string_view texto, std::string& nuevo) {
+            if (texto.empty()) return false;
+            const std::string& primero = valores[0];
+            if (texto == primero) return false;
+            nuevo = primero;
+            return true;
+        }};
+}
+
+/// Nothing for a column whose cells stay as they are.
+std::optional<FormaColumna> forma_de(EstadoTabla& e, int col) {
+    const T_FormatoColumna& f = formato(e, col);
+    if (es_numerico(f.Formato)) return forma_de_numeros(e, es_real(f.Formato) ? f.Decimales : 0);
+    if (es_formato(f.Formato, T_formato::ListaU))
+        return forma_de_lista(e.listas[static_cast<std::size_t>(col)].Col);
+    return std::nullopt;
 }
 
 } // namespace
@@ -163,12 +179,27 @@ void Tablero_establece_Formato(EstadoTabla& e) {
 }
 
 void Tablero_Formato_Columna(EstadoTabla& e, int col) {
-    const T_FormatoColumna& f = formato(e, col);
-    e.tablero.ColWidth(col, ancho_en_twips(f));
-    if (es_numerico(f.Formato))
-        reformatea_numeros(e, col, es_real(f.Formato) ? f.Decimales : 0);
-    else if (es_formato(f.Formato, T_formato::ListaU))
-        reinicia_lista(e, col);
+    e.tablero.ColWidth(col, ancho_en_twips(formato(e, col)));
+    if (const auto forma = forma_de(e, col)) e.tablero.da_forma(col, forma->nombre, forma->da);
+}
+
+bool transforma_con_formato(EstadoTabla& e, int col, const CambioCelda& cambia) {
+    bool hecho = false;
+    sin_errores([&] {
+        const int ancho = ancho_en_twips(formato(e, col));
+        const auto forma = forma_de(e, col);
+        std::string sin_forma;
+        e.tablero.transforma_columna(
+            col, 1, e.tablero.Rows() - 1, [&](int fila, std::string_view texto, std::string& nuevo) {
+                sin_forma.clear();
+                if (!cambia(fila, texto, sin_forma)) sin_forma = texto;
+                if (!forma || !forma->da(fila, sin_forma, nuevo)) nuevo.swap(sin_forma);
+                return nuevo != texto;
+            });
+        e.tablero.ColWidth(col, ancho);
+        hecho = true;
+    });
+    return hecho;
 }
 
 void Tablero_Fila_0_Off(EstadoTabla& e) {

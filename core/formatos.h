@@ -27,6 +27,10 @@ void Tablero_Formato_por_defecto(EstadoTabla& e);
 void Tablero_establece_Formato(EstadoTabla& e);
 /// One column's width and value format.
 void Tablero_Formato_Columna(EstadoTabla& e, int col);
+/// Rewrites the data cells of a column (AlmacenCeldas) and applies its format to what they become, in one pass.
+/// `cambia` must not read the column. False where an error came up: whoever asked does one after the other then,
+/// so that everything ends where it should; the cells above the error have to be written again.
+[[nodiscard]] bool transforma_con_formato(EstadoTabla& e, int col, const CambioCelda& cambia);
 /// Switches the row-number column off: locked, visible, working and grid width 0.
 void Tablero_Fila_0_Off(EstadoTabla& e);
 /// Takes dragged widths of visible, unlocked columns back into the working formats, Int(width / 120);

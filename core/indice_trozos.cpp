@@ -18,7 +18,7 @@ auto en(std::vector<T>& v, std::size_t k) {
 
 // Room for `mas` more, growing as push_back does.
 template <class T>
-void reserva(std::vector<T>& v, std::size_t mas) {
+void haz_sitio(std::vector<T>& v, std::size_t mas) {
     if (v.capacity() - v.size() < mas) v.reserve(std::max(v.size() + mas, v.size() * 2));
 }
 
@@ -73,19 +73,24 @@ std::size_t IndiceTrozos::busca_trozo(int fila) const {
         k = static_cast<std::size_t>(
                 std::upper_bound(primeras_.begin(), primeras_.end(), fila) - primeras_.begin()) -
             1;
-    actual_ = {primeras_[k], primeras_[k + 1], trozos_[k].get(), k};
+    actual_ = {primeras_[k], primeras_[k + 1], &trozos_[k], k};
     return k;
 }
 
 // Changes of the index
 
+// Room for so many chunks more.
+void IndiceTrozos::reserva(std::size_t mas) {
+    olvida();
+    haz_sitio(primeras_, mas);
+    haz_sitio(trozos_, mas);
+}
+
 // A chunk at index `k`; the first rows behind it stay as they are.
-void IndiceTrozos::anade(std::size_t k, int primera, std::unique_ptr<Trozo> trozo) {
-    reserva(primeras_, 1);
-    reserva(trozos_, 1);
+void IndiceTrozos::anade(std::size_t k, int primera, Trozo trozo) {
+    reserva(1);
     primeras_.insert(en(primeras_, k), primera);
     trozos_.insert(en(trozos_, k), std::move(trozo));
-    olvida();
 }
 
 // Chunks `k1` to `k2` - 1 leave; the first rows behind them stay as they are.
@@ -106,16 +111,15 @@ std::size_t IndiceTrozos::corta(int fila) {
     if (fila == filas()) return trozos_.size();
     const std::size_t k = busca_trozo(fila);
     if (primeras_[k] == fila) return k;
-    reserva(primeras_, 1);
-    reserva(trozos_, 1);
-    anade(k + 1, fila, trozos_[k]->separa(fila - primeras_[k]));
+    reserva(1);
+    anade(k + 1, fila, trozos_[k].separa(fila - primeras_[k]));
     return k + 1;
 }
 
 // Joins chunk `k` with the next one where they are small enough together.
 bool IndiceTrozos::funde(std::size_t k) {
-    if (k + 1 >= trozos_.size() || !caben_juntos(*trozos_[k], *trozos_[k + 1])) return false;
-    if (!absorbe(*trozos_[k], *trozos_[k + 1])) return false;
+    if (k + 1 >= trozos_.size() || !caben_juntos(trozos_[k], trozos_[k + 1])) return false;
+    if (!absorbe(trozos_[k], trozos_[k + 1])) return false;
     quita(k + 1, k + 2);
     return true;
 }
@@ -140,20 +144,20 @@ LugarFila IndiceTrozos::prepara(int fila, std::size_t mas) {
 
 void IndiceTrozos::inserta(int fila, int n) {
     if (trozos_.empty()) {
-        anade(0, 0, std::make_unique<Trozo>(n, false));
+        anade(0, 0, Trozo(n, false));
         primeras_.back() = n;
         return;
     }
     const std::size_t k = fila == filas() ? trozos_.size() - 1 : busca_trozo(fila);
     const int i = fila - primeras_[k];
-    Trozo& t = *trozos_[k];
+    Trozo& t = trozos_[k];
     if ((t.vacio() && !t.numeradas()) || t.filas() + n <= FILAS_POR_TROZO) {
         if (t.sin_textos() && t.numeradas()) t.empaqueta();
         t.inserta(i, n);
         desplaza(k + 1, n);
     } else if (i == 0 || i == t.filas()) {
         const std::size_t nuevo = i == 0 ? k : k + 1;
-        anade(nuevo, fila, std::make_unique<Trozo>(n, false));
+        anade(nuevo, fila, Trozo(n, false));
         desplaza(nuevo + 1, n);
     } else {
         const bool a_medias = t.filas() <= FILAS_POR_TROZO && n <= FILAS_POR_TROZO / 2;
@@ -169,15 +173,11 @@ void IndiceTrozos::borra(int fila, int n) {
     for (; k < trozos_.size() && primeras_[k] < hasta; ++k) {
         const int i1 = std::max(fila - primeras_[k], 0);
         const int i2 = std::min(hasta, primeras_[k + 1]) - primeras_[k];
-        if (i2 - i1 == trozos_[k]->filas())
-            trozos_[k].reset();
-        else
-            trozos_[k]->borra(i1, i2 - i1);
+        if (i2 - i1 != trozos_[k].filas()) trozos_[k].borra(i1, i2 - i1);
     }
-    const auto it = std::find(en(trozos_, k1), en(trozos_, k), nullptr);
-    const auto fin = std::find_if(it, en(trozos_, k), [](const auto& t) { return t != nullptr; });
-    const auto k2 = static_cast<std::size_t>(it - trozos_.begin());
-    quita(k2, k2 + static_cast<std::size_t>(fin - it));
+    const std::size_t enteros1 = primeras_[k1] == fila ? k1 : k1 + 1;
+    const std::size_t enteros2 = primeras_[k] <= hasta ? k : k - 1;
+    quita(enteros1, std::max(enteros1, enteros2));
     if (primeras_[k1] > fila) primeras_[k1] = std::max(primeras_[k1] - n, fila);
     for (std::size_t j = k1 + 1; j < primeras_.size(); ++j) primeras_[j] = std::max(primeras_[j] - n, fila);
     while (funde(k1)) {
@@ -194,16 +194,14 @@ void IndiceTrozos::borra_varias(std::span<const int> filas) {
         const int base = primeras_[k];
         const auto hasta = std::lower_bound(filas.begin(), filas.end(), primeras_[k + 1]);
         const auto n = static_cast<std::size_t>(hasta - filas.begin());
-        std::unique_ptr<Trozo> t = std::move(trozos_[k]);
-        if (n == static_cast<std::size_t>(t->filas()))
-            t.reset();
-        else
-            borra_de(*t, base, filas.first(n));
+        Trozo t = std::move(trozos_[k]);
+        const auto suyas_borradas = filas.first(n);
         filas = filas.subspan(n);
-        if (!t) continue;
-        const int suyas = t->filas();
-        const bool junto = n != 0 && destino > 0 && caben_juntos(*trozos_[destino - 1], *t) &&
-            absorbe(*trozos_[destino - 1], *t);
+        if (n == static_cast<std::size_t>(t.filas())) continue;
+        borra_de(t, base, suyas_borradas);
+        const int suyas = t.filas();
+        const bool junto = n != 0 && destino > 0 && caben_juntos(trozos_[destino - 1], t) &&
+            absorbe(trozos_[destino - 1], t);
         if (!junto) {
             primeras_[destino] = primera;
             trozos_[destino++] = std::move(t);
@@ -218,19 +216,17 @@ void IndiceTrozos::reparte(int desde, int hasta) {
     if (busca(desde).trozo->filas() > FILAS_POR_TROZO) corta(desde);
     if (busca(hasta).trozo->filas() > FILAS_POR_TROZO) corta(hasta + 1);
     for (std::size_t k = busca_trozo(desde); k < trozos_.size() && primeras_[k] <= hasta; ++k) {
-        const int filas = trozos_[k]->filas();
+        const int filas = trozos_[k].filas();
         if (filas <= FILAS_POR_TROZO) continue;
         std::vector<int> primeras;
-        std::vector<std::unique_ptr<Trozo>> trozos;
+        std::vector<Trozo> trozos;
         for (int i = FILAS_POR_TROZO; i < filas; i += FILAS_POR_TROZO) {
             const int n = std::min(FILAS_POR_TROZO, filas - i);
-            trozos.push_back(std::make_unique<Trozo>(n, trozos_[k]->numeradas()));
+            trozos.emplace_back(n, trozos_[k].numeradas());
             primeras.push_back(primeras_[k] + i);
         }
-        reserva(primeras_, primeras.size());
-        reserva(trozos_, trozos.size());
-        olvida();
-        trozos_[k]->borra(FILAS_POR_TROZO, filas - FILAS_POR_TROZO);
+        reserva(primeras.size());
+        trozos_[k].borra(FILAS_POR_TROZO, filas - FILAS_POR_TROZO);
         primeras_.insert(en(primeras_, k + 1), primeras.begin(), primeras.end());
         trozos_.insert(
             en(trozos_, k + 1), std::move_iterator(trozos.begin()), std::move_iterator(trozos.end()));
@@ -241,14 +237,14 @@ void IndiceTrozos::junta_vacios(int desde, int hasta) {
     std::size_t k = busca_trozo(desde);
     if (k > 0) --k;
     while (k + 1 < trozos_.size() && primeras_[k] <= hasta) {
-        const bool vacios = trozos_[k]->vacio() && trozos_[k + 1]->vacio();
+        const bool vacios = trozos_[k].vacio() && trozos_[k + 1].vacio();
         if (!vacios || !funde(k)) ++k;
     }
 }
 
 std::size_t IndiceTrozos::bytes() const {
-    std::size_t bytes = primeras_.capacity() * sizeof(int) + trozos_.capacity() * sizeof trozos_[0];
-    for (const auto& t : trozos_) bytes += t->bytes();
+    std::size_t bytes = primeras_.capacity() * sizeof(int) + trozos_.capacity() * sizeof(Trozo);
+    for (const Trozo& t : trozos_) bytes += t.bytes();
     return bytes;
 }
 

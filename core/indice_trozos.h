@@ -9,7 +9,6 @@
 #include "core/trozo.h"
 
 #include <cstddef>
-#include <memory>
 #include <span>
 #include <vector>
 
@@ -51,7 +50,7 @@ public:
         for (std::size_t k = busca_trozo(desde); k < trozos_.size() && primeras_[k] <= hasta; ++k) {
             const int primera = primeras_[k];
             const int ultima = primeras_[k + 1] - 1;
-            visita(*trozos_[k], (desde > primera ? desde : primera) - primera,
+            visita(trozos_[k], (desde > primera ? desde : primera) - primera,
                 (hasta < ultima ? hasta : ultima) - primera, primera);
         }
     }
@@ -77,13 +76,14 @@ private:
 
     [[nodiscard]] LugarFila prepara(int fila, std::size_t mas);
     std::size_t corta(int fila);
-    void anade(std::size_t k, int primera, std::unique_ptr<Trozo> trozo);
+    void reserva(std::size_t mas);
+    void anade(std::size_t k, int primera, Trozo trozo);
     void quita(std::size_t k1, std::size_t k2);
     void desplaza(std::size_t k, int n);
     bool funde(std::size_t k);
 
     std::vector<int> primeras_ = {0}; // first row of each chunk, then the number of rows
-    std::vector<std::unique_ptr<Trozo>> trozos_;
+    mutable std::vector<Trozo> trozos_; // who may write into a chunk is the store's business
     mutable Actual actual_;
 };
 

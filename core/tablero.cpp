@@ -20,10 +20,7 @@ void Tablero::comprueba_columna(int col) const {
     if (col < 0 || col >= Cols()) lanza(NumError::Subindice);
 }
 
-void Tablero::comprueba(int fila, int col) const {
-    const bool dentro = fila >= 0 && fila < Rows() && col >= 0 && col < Cols();
-    if (!dentro) lanza(NumError::Subindice);
-}
+void Tablero::fuera() { lanza(NumError::Subindice); }
 
 void Tablero::comprueba(const Bloque& bloque) const {
     comprueba(bloque.fila1, bloque.col1);
@@ -110,11 +107,6 @@ void Tablero::numera_filas() {
 
 // Texts
 
-std::string_view Tablero::TextMatrix(int fila, int col) const {
-    comprueba(fila, col);
-    return almacen_.texto(fila, col);
-}
-
 void Tablero::TextMatrix(int fila, int col, std::string_view texto) {
     comprueba(fila, col);
     if (!con_memoria([&] { return almacen_.pon_texto(fila, col, texto); })) return;
@@ -133,8 +125,7 @@ void Tablero::pon_fila(int fila, int col, std::span<const std::string_view> text
     if (cambia) avisa({fila, col, fila, col2});
 }
 
-void Tablero::transforma_columna(
-    int col, int desde, int hasta, const std::function<bool(int, std::string_view, std::string&)>& cambia) {
+void Tablero::transforma_columna(int col, int desde, int hasta, const CambioCelda& cambia) {
     if (desde > hasta) return;
     comprueba({desde, col, hasta, col});
     anota_escritas(desde, hasta, col, col);
@@ -149,8 +140,7 @@ void Tablero::transforma_columna(
 }
 
 // A cell that changes is looked at once more the next time: only what was seen to stay as it is has its form.
-void Tablero::da_forma(int col, std::string_view nombre,
-    const std::function<bool(int, std::string_view, std::string&)>& cambia) {
+void Tablero::da_forma(int col, std::string_view nombre, const CambioCelda& cambia) {
     comprueba_columna(col);
     auto& forma = columnas_[static_cast<std::size_t>(col)].forma;
     if (!forma || forma->nombre != nombre) {

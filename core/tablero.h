@@ -77,18 +77,20 @@ public:
     void numera_filas();
 
     // Texts. The view holds until the next change of the grid or the next row number asked for.
-    [[nodiscard]] std::string_view TextMatrix(int fila, int col) const;
+    [[nodiscard]] std::string_view TextMatrix(int fila, int col) const {
+        comprueba(fila, col);
+        return almacen_.texto(fila, col);
+    }
+
     void TextMatrix(int fila, int col, std::string_view texto);
     /// Writes neighbouring cells of one row from `col` on, with one notice.
     void pon_fila(int fila, int col, std::span<const std::string_view> textos);
     /// Rewrites a column's data cells in one pass and with one notice; see AlmacenCeldas::transforma.
-    void transforma_columna(int col, int desde, int hasta,
-        const std::function<bool(int, std::string_view, std::string&)>& cambia);
+    void transforma_columna(int col, int desde, int hasta, const CambioCelda& cambia);
 
     /// The same for all data cells, but for those that need not be looked at: they were not written since
     /// `cambia` left them as they were in an earlier call with the same `forma`, which names what it does.
-    void da_forma(int col, std::string_view forma,
-        const std::function<bool(int, std::string_view, std::string&)>& cambia);
+    void da_forma(int col, std::string_view forma, const CambioCelda& cambia);
 
     // The current cell and the far corner. Row moves RowSel with it, Col moves ColSel.
     [[nodiscard]] int Row() const { return cursor_.fila; }
@@ -220,7 +222,12 @@ private:
 
     void comprueba_fila(int fila) const;
     void comprueba_columna(int col) const;
-    void comprueba(int fila, int col) const;
+    void comprueba(int fila, int col) const {
+        const bool dentro = fila >= 0 && fila < Rows() && col >= 0 && col < Cols();
+        if (!dentro) fuera();
+    }
+
+    [[noreturn]] static void fuera();
     void comprueba(const Bloque& bloque) const;
     void comprueba_tamano(std::int64_t filas, std::int64_t columnas) const;
     void recorta();

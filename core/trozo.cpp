@@ -12,8 +12,9 @@ namespace Qlt4_Tabla {
 namespace {
 
 // Runs grow by whole blocks. The block, with what the allocator and the filling add, fits its sizes.
-constexpr std::uint32_t BLOQUE = 1024;
-constexpr std::uint32_t MARGEN = 16 + RELLENO;
+constexpr std::uint32_t BLOQUE = 512;
+constexpr std::uint32_t BYTES_INICIOS = FILAS_POR_TROZO * sizeof(std::uint32_t);
+constexpr std::uint32_t MARGEN = 16 + BYTES_INICIOS + RELLENO;
 constexpr std::uint32_t CABIDA_MAXIMA = 0x7FFFFFFF;
 
 constexpr std::uint32_t redondea(std::uint32_t bytes) {
@@ -27,14 +28,14 @@ std::string_view como_texto(const std::uint8_t* p, std::size_t n) {
 } // namespace
 
 CeldaGuardada Trozo::una_celda(int i, int col) const {
-    if (!datos_) return {{}, numeradas_ && col == 0 ? Contenido::Numero : Contenido::Texto};
-    if (col == 0 && lee_cabecera(datos_.get() + inicio(i)).numerada()) return {{}, Contenido::Numero};
+    if (!bloque_) return {{}, numeradas_ && col == 0 ? Contenido::Numero : Contenido::Texto};
+    if (col == 0 && lee_cabecera(datos() + inicio(i)).numerada()) return {{}, Contenido::Numero};
     return celdas(i, col).siguiente();
 }
 
 CeldasDeFila Trozo::celdas(int i, int col) const {
-    if (!datos_) return {};
-    const std::uint8_t* const p = datos_.get() + inicio(i);
+    if (!bloque_) return {};
+    const std::uint8_t* const p = datos() + inicio(i);
     const CabeceraFila c = lee_cabecera(p);
     const std::uint32_t antes = std::min(static_cast<std::uint32_t>(col), c.columnas);
     const std::uint8_t* const longitudes = p + c.bytes;
@@ -43,7 +44,7 @@ CeldasDeFila Trozo::celdas(int i, int col) const {
 }
 
 bool Trozo::contiene(std::string_view texto) const {
-    const std::string_view todo = como_texto(datos_.get(), datos_ ? cabida_ : 0);
+    const std::string_view todo = como_texto(bloque_ ? datos() : nullptr, bloque_ ? cabida_ : 0);
     const std::less<> antes;
     return !antes(texto.data(), todo.data()) && antes(texto.data(), todo.data() + todo.size());
 }
@@ -57,16 +58,14 @@ std::uint32_t Trozo::fin(int i) const {
 
 void Trozo::pon_cabida(std::uint32_t cabida) {
     const std::uint32_t cola = cabida_ - hueco_fin_;
-    if (cabida < cabida_ && cola != 0)
-        std::memmove(datos_.get() + cabida - cola, datos_.get() + hueco_fin_, cola);
-    void* const p = std::realloc(datos_.get(), cabida + RELLENO);
+    if (cabida < cabida_ && cola != 0) std::memmove(datos() + cabida - cola, datos() + hueco_fin_, cola);
+    void* const p = std::realloc(bloque_.get(), BYTES_INICIOS + cabida + RELLENO);
     if (!p && cabida > cabida_) throw std::bad_alloc();
     if (p) {
-        static_cast<void>(datos_.release());
-        datos_.reset(static_cast<std::uint8_t*>(p));
+        static_cast<void>(bloque_.release());
+        bloque_.reset(static_cast<std::uint32_t*>(p));
     }
-    if (cabida > cabida_ && cola != 0)
-        std::memmove(datos_.get() + cabida - cola, datos_.get() + hueco_fin_, cola);
+    if (cabida > cabida_ && cola != 0) std::memmove(datos() + cabida - cola, datos() + hueco_fin_, cola);
     for (int i = corte_; i < filas_; ++i) inicio(i) += cabida - cabida_;
     hueco_fin_ = cabida - cola;
     cabida_ = cabida;
@@ -84,7 +83,7 @@ void Trozo::encoge() {
 
 void Trozo::lleva_hueco(int i) {
     const std::uint32_t ancho = hueco();
-    std::uint8_t* const p = datos_.get();
+    std::uint8_t* const p = datos();
     if (i > corte_) {
         const std::uint32_t hasta = i == filas_ ? cabida_ : inicio(i);
         std::memmove(p + hueco_ini_, p + hueco_fin_, hasta - hueco_fin_);
@@ -105,8 +104,8 @@ void Trozo::empaqueta() {
     const auto n = static_cast<std::uint32_t>(filas_);
     corte_ = 0; // no row counts as placed while the run is made
     pon_cabida(redondea(n));
-    for (std::uint32_t i = 0; i < n; ++i) inicio_[i] = i;
-    std::memset(datos_.get(), numeradas_ ? CabeceraFila::NUMERADA : 0, n);
+    for (int i = 0; i < filas_; ++i) inicio(i) = static_cast<std::uint32_t>(i);
+    std::memset(datos(), numeradas_ ? CabeceraFila::NUMERADA : 0, n);
     corte_ = filas_;
     hueco_ini_ = n;
     hueco_fin_ = cabida_;
@@ -118,7 +117,7 @@ void Trozo::pon(int i, int col, const CeldaGuardada& celda) {
     const auto columna = static_cast<std::uint32_t>(col);
     const std::uint32_t bytes = celda.longitud;
     const auto longitud = celda.contenido == Contenido::Largo ? LARGO : static_cast<std::uint8_t>(bytes);
-    const CabeceraFila c = lee_cabecera(datos_.get() + inicio(i));
+    const CabeceraFila c = lee_cabecera(datos() + inicio(i));
     if (columna < c.columnas) {
         if (bytes == 0 && columna + 1 == c.columnas)
             acorta(i, c, columna);
@@ -127,7 +126,7 @@ void Trozo::pon(int i, int col, const CeldaGuardada& celda) {
     } else if (bytes != 0) {
         alarga(i, c, columna, celda.bytes(), longitud);
     }
-    std::uint8_t& banderas = datos_.get()[inicio(i)];
+    std::uint8_t& banderas = datos()[inicio(i)];
     if (col == 0) banderas &= static_cast<std::uint8_t>(~CabeceraFila::NUMERADA);
     if (celda.contenido == Contenido::Numero) banderas |= CabeceraFila::NUMERADA;
     if (longitud == LARGO)
@@ -139,16 +138,16 @@ void Trozo::pon(int i, int col, const CeldaGuardada& celda) {
 void Trozo::sustituye(
     int i, const CabeceraFila& c, std::uint32_t col, std::string_view bytes, std::uint8_t longitud) {
     const auto nuevos = static_cast<std::uint32_t>(bytes.size());
-    const std::uint32_t viejos = bytes_guardados(datos_.get()[inicio(i) + c.bytes + col]);
+    const std::uint32_t viejos = bytes_guardados(datos()[inicio(i) + c.bytes + col]);
     if (nuevos != viejos) {
         if (nuevos > viejos) asegura(nuevos - viejos);
         mueve_hueco(i + 1);
     }
-    std::uint8_t* const longitudes = datos_.get() + inicio(i) + c.bytes;
+    std::uint8_t* const longitudes = datos() + inicio(i) + c.bytes;
     std::uint8_t* const texto = longitudes + c.columnas + suma_bytes(longitudes, col, c.largos());
     if (nuevos != viejos) {
         const std::uint8_t* const detras = texto + viejos;
-        std::memmove(texto + nuevos, detras, static_cast<std::size_t>(datos_.get() + hueco_ini_ - detras));
+        std::memmove(texto + nuevos, detras, static_cast<std::size_t>(datos() + hueco_ini_ - detras));
         hueco_ini_ += nuevos - viejos;
     }
     if (nuevos != 0) std::memcpy(texto, bytes.data(), nuevos);
@@ -163,9 +162,9 @@ void Trozo::alarga(int i, CabeceraFila c, std::uint32_t col, std::string_view by
     const std::uint32_t mas = col + 1 - c.columnas + bytes_cab - c.bytes;
     asegura(mas + nuevos);
     mueve_hueco(i + 1);
-    std::uint8_t* const fila = datos_.get() + inicio(i);
+    std::uint8_t* const fila = datos() + inicio(i);
     std::uint8_t* const textos = fila + c.bytes + c.columnas;
-    const auto bytes_textos = static_cast<std::size_t>(datos_.get() + hueco_ini_ - textos);
+    const auto bytes_textos = static_cast<std::size_t>(datos() + hueco_ini_ - textos);
     std::memmove(textos + mas, textos, bytes_textos);
     if (bytes_cab != c.bytes) std::memmove(fila + bytes_cab, fila + c.bytes, c.columnas);
     const std::uint32_t tenia = c.columnas;
@@ -180,7 +179,7 @@ void Trozo::alarga(int i, CabeceraFila c, std::uint32_t col, std::string_view by
 // The row comes to store `columnas` columns at most, fewer where the last of them are empty.
 void Trozo::acorta(int i, CabeceraFila c, std::uint32_t columnas) {
     mueve_hueco(i + 1);
-    std::uint8_t* const fila = datos_.get() + inicio(i);
+    std::uint8_t* const fila = datos() + inicio(i);
     std::uint8_t* const longitudes = fila + c.bytes;
     while (columnas != 0 && longitudes[columnas - 1] == 0) --columnas;
     const std::uint32_t bytes_textos = suma_bytes(longitudes, columnas, c.largos());
@@ -189,22 +188,22 @@ void Trozo::acorta(int i, CabeceraFila c, std::uint32_t columnas) {
     std::memmove(fila + bytes_cabecera(columnas), longitudes, columnas);
     std::uint8_t* const destino = fila + escribe_cabecera(fila, c) + columnas;
     std::memmove(destino, textos, bytes_textos);
-    hueco_ini_ = static_cast<std::uint32_t>(destino + bytes_textos - datos_.get());
+    hueco_ini_ = static_cast<std::uint32_t>(destino + bytes_textos - datos());
     encoge();
 }
 
 // The text goes into the gap before the others make room for its length, so that it may be one of them.
 bool Trozo::anexa(int i, int col, std::string_view texto) {
     constexpr std::uint32_t MAXIMO = 31; // columns whose count fits into the first byte
-    if (i + 1 != corte_ || !datos_ || cabida_ > BYTES_BUENOS) return false;
-    std::uint8_t* const fila = datos_.get() + inicio(i);
+    if (i + 1 != corte_ || !bloque_ || cabida_ > BYTES_BUENOS) return false;
+    std::uint8_t* const fila = datos() + inicio(i);
     const std::uint32_t tenia = fila[0] >> 2U;
     const std::uint32_t columnas = static_cast<std::uint32_t>(col) + 1;
     if (columnas <= tenia || columnas > MAXIMO) return false;
     const std::uint32_t mas = columnas - tenia;
     if (texto.empty() || texto.size() >= LARGO || mas + texto.size() > hueco()) return false;
     std::uint8_t* const textos = fila + 1 + tenia;
-    std::uint8_t* const final = datos_.get() + hueco_ini_;
+    std::uint8_t* const final = datos() + hueco_ini_;
     std::memcpy(final + mas, texto.data(), texto.size());
     std::memmove(textos + mas, textos, static_cast<std::size_t>(final - textos));
     for (std::uint8_t* vacia = textos; vacia != textos + mas - 1; ++vacia) *vacia = 0;
@@ -216,29 +215,33 @@ bool Trozo::anexa(int i, int col, std::string_view texto) {
 
 // The flag of long texts after one was taken away.
 void Trozo::revisa_largos(int i) {
-    std::uint8_t* const fila = datos_.get() + inicio(i);
+    std::uint8_t* const fila = datos() + inicio(i);
     const CabeceraFila c = lee_cabecera(fila);
     const std::uint8_t* const longitudes = fila + c.bytes;
     const bool hay = std::find(longitudes, longitudes + c.columnas, LARGO) != longitudes + c.columnas;
     if (!hay) fila[0] &= static_cast<std::uint8_t>(~CabeceraFila::LARGOS);
 }
 
-void Trozo::pon_fila(int i, std::span<const std::uint8_t> fila) {
-    const auto nuevos = static_cast<std::uint32_t>(fila.size());
-    const std::uint32_t viejos = fin(i) - inicio(i);
+void Trozo::pon_filas(int i, std::span<const std::uint8_t> filas, std::span<const std::uint32_t> finales) {
+    const int detras = i + static_cast<int>(finales.size());
+    mueve_hueco(detras);
+    const auto nuevos = static_cast<std::uint32_t>(filas.size());
+    const std::uint32_t viejos = hueco_ini_ - inicio(i);
     if (nuevos > viejos) asegura(nuevos - viejos);
-    mueve_hueco(i + 1);
-    std::memcpy(datos_.get() + inicio(i), fila.data(), nuevos);
-    hueco_ini_ = inicio(i) + nuevos;
+    const std::uint32_t lugar = inicio(i);
+    std::memcpy(datos() + lugar, filas.data(), nuevos);
+    for (std::uint32_t desde = lugar; const std::uint32_t fin : finales) {
+        inicio(i++) = desde;
+        desde = lugar + fin;
+    }
+    hueco_ini_ = lugar + nuevos;
     if (nuevos < viejos) encoge();
 }
 
-std::span<const std::uint8_t> Trozo::fila(int i) const {
-    return {datos_.get() + inicio(i), fin(i) - inicio(i)};
-}
+std::span<const std::uint8_t> Trozo::fila(int i) const { return {datos() + inicio(i), fin(i) - inicio(i)}; }
 
 bool Trozo::numera(int i) {
-    const CabeceraFila c = lee_cabecera(datos_.get() + inicio(i));
+    const CabeceraFila c = lee_cabecera(datos() + inicio(i));
     if (c.numerada()) return false;
     pon(i, 0, {{}, Contenido::Numero});
     return true;
@@ -247,11 +250,12 @@ bool Trozo::numera(int i) {
 // Rows
 
 void Trozo::inserta(int i, int n) {
-    if (datos_) {
+    if (bloque_) {
         asegura(static_cast<std::uint32_t>(n));
         mueve_hueco(i);
-        std::move_backward(inicio_.begin() + i, inicio_.begin() + filas_, inicio_.begin() + filas_ + n);
-        std::memset(datos_.get() + hueco_ini_, 0, static_cast<std::size_t>(n));
+        std::memmove(
+            &inicio(i + n), &inicio(i), sizeof(std::uint32_t) * static_cast<std::size_t>(filas_ - i));
+        std::memset(datos() + hueco_ini_, 0, static_cast<std::size_t>(n));
         for (int j = i; j < i + n; ++j) inicio(j) = hueco_ini_++;
         corte_ = i + n;
     }
@@ -260,13 +264,14 @@ void Trozo::inserta(int i, int n) {
 }
 
 void Trozo::borra(int i, int n) {
-    if (datos_) {
+    if (bloque_) {
         mueve_hueco(i);
         hueco_fin_ = i + n == filas_ ? cabida_ : inicio(i + n);
-        std::move(inicio_.begin() + i + n, inicio_.begin() + filas_, inicio_.begin() + i);
+        std::memmove(
+            &inicio(i), &inicio(i + n), sizeof(std::uint32_t) * static_cast<std::size_t>(filas_ - i - n));
     }
     filas_ -= n;
-    if (datos_) encoge();
+    if (bloque_) encoge();
     if (adornos_) {
         adornos_->borra(i, n);
         quita_adornos_vacios();
@@ -276,13 +281,13 @@ void Trozo::borra(int i, int n) {
 void Trozo::quita_columnas(int n) {
     if (n == 0) numeradas_ = false;
     const auto columnas = static_cast<std::uint32_t>(n);
-    for (int i = 0; datos_ && i < filas_; ++i) {
-        const CabeceraFila c = lee_cabecera(datos_.get() + inicio(i));
+    for (int i = 0; bloque_ && i < filas_; ++i) {
+        const CabeceraFila c = lee_cabecera(datos() + inicio(i));
         if (c.columnas > columnas) {
             acorta(i, c, columnas);
             if (c.largos()) revisa_largos(i);
         }
-        if (n == 0) datos_.get()[inicio(i)] = 0;
+        if (n == 0) datos()[inicio(i)] = 0;
     }
     if (adornos_) {
         adornos_->quita_columnas(n);
@@ -290,37 +295,37 @@ void Trozo::quita_columnas(int n) {
     }
 }
 
-std::unique_ptr<Trozo> Trozo::separa(int i) {
-    auto nuevo = std::make_unique<Trozo>(filas_ - i, numeradas_);
-    if (adornos_) nuevo->adornos_ = std::make_unique<Adornos>(*adornos_);
-    if (datos_) {
+Trozo Trozo::separa(int i) {
+    Trozo nuevo(filas_ - i, numeradas_);
+    if (adornos_) nuevo.adornos_ = std::make_unique<Adornos>(*adornos_);
+    if (bloque_) {
         mueve_hueco(i);
         const std::uint32_t bytes = cabida_ - hueco_fin_;
-        const int filas = nuevo->filas_;
-        nuevo->filas_ = 0; // no row to move while the run is made
-        nuevo->pon_cabida(redondea(bytes));
-        nuevo->filas_ = filas;
-        std::memcpy(nuevo->datos_.get(), datos_.get() + hueco_fin_, bytes);
-        for (int j = 0; j < filas; ++j) nuevo->inicio(j) = inicio(i + j) - hueco_fin_;
-        nuevo->corte_ = filas;
-        nuevo->hueco_ini_ = bytes;
+        const int filas = nuevo.filas_;
+        nuevo.filas_ = 0; // no row to move while the run is made
+        nuevo.pon_cabida(redondea(bytes));
+        nuevo.filas_ = filas;
+        std::memcpy(nuevo.datos(), datos() + hueco_fin_, bytes);
+        for (int j = 0; j < filas; ++j) nuevo.inicio(j) = inicio(i + j) - hueco_fin_;
+        nuevo.corte_ = filas;
+        nuevo.hueco_ini_ = bytes;
         hueco_fin_ = cabida_;
     }
     if (adornos_) {
         adornos_->borra(i, filas_ - i);
-        nuevo->adornos_->borra(0, i);
+        nuevo.adornos_->borra(0, i);
         quita_adornos_vacios();
-        nuevo->quita_adornos_vacios();
+        nuevo.quita_adornos_vacios();
     }
     filas_ = i;
-    if (datos_) encoge();
+    if (bloque_) encoge();
     return nuevo;
 }
 
 void Trozo::absorbe(const Trozo& otro) {
     const bool iguales = sin_textos() && otro.sin_textos() && numeradas_ == otro.numeradas_;
     if (!iguales && sin_textos()) empaqueta();
-    if (!iguales) asegura(otro.datos_ ? otro.usados() : static_cast<std::uint32_t>(otro.filas_));
+    if (!iguales) asegura(otro.bloque_ ? otro.usados() : static_cast<std::uint32_t>(otro.filas_));
     if (otro.adornos_ && !adornos_) adornos_ = std::make_unique<Adornos>();
     if (otro.adornos_) adornos_->absorbe(*otro.adornos_, filas_);
     if (!iguales) anexa_filas(otro);
@@ -331,12 +336,12 @@ void Trozo::absorbe(const Trozo& otro) {
 void Trozo::anexa_filas(const Trozo& otro) {
     mueve_hueco(filas_);
     if (otro.sin_textos())
-        std::memset(datos_.get() + hueco_ini_, otro.numeradas_ ? CabeceraFila::NUMERADA : 0,
+        std::memset(datos() + hueco_ini_, otro.numeradas_ ? CabeceraFila::NUMERADA : 0,
             static_cast<std::size_t>(otro.filas_));
     for (int j = 0; j < otro.filas_; ++j) {
         inicio(filas_ + j) = hueco_ini_;
         const auto fila = otro.sin_textos() ? std::span<const std::uint8_t>() : otro.fila(j);
-        if (!fila.empty()) std::memcpy(datos_.get() + hueco_ini_, fila.data(), fila.size());
+        if (!fila.empty()) std::memcpy(datos() + hueco_ini_, fila.data(), fila.size());
         hueco_ini_ += otro.sin_textos() ? 1U : static_cast<std::uint32_t>(fila.size());
     }
     corte_ = filas_ + otro.filas_;
@@ -359,7 +364,7 @@ void Trozo::quita_adornos_vacios() {
 }
 
 std::size_t Trozo::bytes() const {
-    return sizeof(Trozo) + (datos_ ? cabida_ + RELLENO : 0) + (adornos_ ? adornos_->bytes() : 0);
+    return (bloque_ ? BYTES_INICIOS + cabida_ + RELLENO : 0) + (adornos_ ? adornos_->bytes() : 0);
 }
 
 } // namespace Qlt4_Tabla

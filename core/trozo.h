@@ -12,7 +12,6 @@
 #include "core/adornos.h"
 #include "core/fila_empaquetada.h"
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -79,10 +78,10 @@ public:
     [[nodiscard]] int filas() const { return filas_; }
 
     /// No packed rows: every text is empty, and all rows or none are numbered.
-    [[nodiscard]] bool sin_textos() const { return !datos_; }
+    [[nodiscard]] bool sin_textos() const { return !bloque_; }
 
     /// Nothing at all is stored: the number of rows is free.
-    [[nodiscard]] bool vacio() const { return !datos_ && !adornos_; }
+    [[nodiscard]] bool vacio() const { return !bloque_ && !adornos_; }
 
     [[nodiscard]] bool numeradas() const { return numeradas_; }
 
@@ -94,9 +93,7 @@ public:
     /// The cells of row `i` from column `col` on.
     [[nodiscard]] CeldasDeFila celdas(int i, int col) const;
     /// Does some text of the row stand apart?
-    [[nodiscard]] bool hay_largos(int i) const {
-        return datos_ && lee_cabecera(datos_.get() + inicio(i)).largos();
-    }
+    [[nodiscard]] bool hay_largos(int i) const { return bloque_ && lee_cabecera(bytes_de(i)).largos(); }
 
     /// Does the text lie inside the packed rows?
     [[nodiscard]] bool contiene(std::string_view texto) const;
@@ -111,10 +108,12 @@ public:
     /// Sets a cell beyond the stored ones of the row written last, where there is room for it: the quick way of
     /// filling row after row. False: no such cell, and nothing is done. The text may lie anywhere; `col` > 0.
     bool anexa(int i, int col, std::string_view texto);
-    /// Replaces a whole packed row by its bytes.
-    void pon_fila(int i, std::span<const std::uint8_t> fila);
+    /// Replaces packed rows from `i` on by others; `finales` tells where each of them ends in `filas`.
+    void pon_filas(int i, std::span<const std::uint8_t> filas, std::span<const std::uint32_t> finales);
     /// The bytes of a packed row.
     [[nodiscard]] std::span<const std::uint8_t> fila(int i) const;
+    /// Where they begin.
+    [[nodiscard]] const std::uint8_t* bytes_de(int i) const { return datos() + inicio(i); }
     /// Column 0 of row `i` takes the row's number. Packed chunks only. True when it had another text.
     bool numera(int i);
     /// The same for all rows of a chunk without texts.
@@ -127,7 +126,7 @@ public:
     /// Columns from `n` on are gone; with 0 no row is numbered.
     void quita_columnas(int n);
     /// Rows `i` and on (not all) leave to a new chunk.
-    [[nodiscard]] std::unique_ptr<Trozo> separa(int i);
+    [[nodiscard]] Trozo separa(int i);
     /// The rows of `otro` come behind; together at most FILAS_POR_TROZO, or both are empty and alike.
     void absorbe(const Trozo& otro);
 
@@ -140,8 +139,12 @@ public:
 
 private:
     struct Libera {
-        void operator()(std::uint8_t* p) const { std::free(p); }
+        void operator()(std::uint32_t* p) const { std::free(p); }
     };
+
+    [[nodiscard]] std::uint8_t* datos() const {
+        return reinterpret_cast<std::uint8_t*>(bloque_.get() + FILAS_POR_TROZO);
+    }
 
     [[nodiscard]] std::uint32_t hueco() const { return hueco_fin_ - hueco_ini_; }
 
@@ -158,9 +161,9 @@ private:
         if (i != corte_) lleva_hueco(i);
     }
 
-    [[nodiscard]] std::uint32_t& inicio(int i) { return inicio_[static_cast<std::size_t>(i)]; }
+    [[nodiscard]] std::uint32_t& inicio(int i) { return bloque_.get()[i]; }
 
-    [[nodiscard]] std::uint32_t inicio(int i) const { return inicio_[static_cast<std::size_t>(i)]; }
+    [[nodiscard]] std::uint32_t inicio(int i) const { return bloque_.get()[i]; }
 
     [[nodiscard]] std::uint32_t fin(int i) const;
     void pon_cabida(std::uint32_t cabida);
@@ -175,7 +178,10 @@ private:
     void anexa_filas(const Trozo& otro);
     void quita_adornos_vacios();
 
-    std::unique_ptr<std::uint8_t, Libera> datos_; // cabida_ bytes and RELLENO more
+    // FILAS_POR_TROZO numbers, where the rows begin, then cabida_ bytes of rows and RELLENO more. One block, and
+    // nothing else beside it: the blocks of neighbours stand side by side, and what one leaves when it grows
+    // takes in the next ones.
+    std::unique_ptr<std::uint32_t, Libera> bloque_;
     std::unique_ptr<Adornos> adornos_;
     std::uint32_t cabida_ = 0;
     std::uint32_t hueco_ini_ = 0; // the gap; it begins where row corte_ - 1 ends
@@ -183,12 +189,11 @@ private:
     int corte_ = 0; // rows before this one stand before the gap
     int filas_;
     bool numeradas_; // of a chunk without texts
-    std::array<std::uint32_t, FILAS_POR_TROZO> inicio_; // where the rows begin; not set without texts
 };
 
 inline CeldaGuardada Trozo::celda(int i, int col) const {
-    if (!datos_ || col < 1 || col > 15) return una_celda(i, col);
-    const std::uint8_t* const p = datos_.get() + inicio(i);
+    if (!bloque_ || col < 1 || col > 15) return una_celda(i, col);
+    const std::uint8_t* const p = bytes_de(i);
     if ((p[0] & (CabeceraFila::LARGOS | CabeceraFila::SIGUE)) != 0) return una_celda(i, col);
     const auto columna = static_cast<std::uint32_t>(col);
     const std::uint32_t columnas = p[0] >> 2U;

@@ -33,7 +33,9 @@ public:
             &Gemelos::borra_una, &Gemelos::borra, &Gemelos::borra_varias, &Gemelos::anade,
             &Gemelos::cambia_cuentas, &Gemelos::numera, &Gemelos::transforma, &Gemelos::pinta_texto,
             &Gemelos::pinta_fondo, &Gemelos::pinta_todo, &Gemelos::pon_alto};
+        lee_unas();
         (this->*PASOS[menor(static_cast<int>(std::size(PASOS)))])();
+        lee_unas();
     }
 
     void compara() {
@@ -62,6 +64,20 @@ private:
             ASSERT_EQ(almacen_.color_texto(f, c), fila.color_texto.contains(c) ? fila.color_texto[c] : 0);
         }
         ASSERT_EQ(almacen_.alto(f), fila.alto) << f;
+    }
+
+    // A few cells of near rows in any order; a text that was read first still stands when the others were read.
+    void lee_unas() {
+        if (modelo_.columnas == 0 || modelo_.n_filas() == 0) return;
+        const int f1 = una_fila();
+        const int c1 = modelo_.columnas == 1 ? 0 : 1 + menor(modelo_.columnas - 1);
+        const std::string_view primero = almacen_.texto(f1, c1);
+        for (int n = menor(12); n > 0; --n) {
+            const int f = menor(3) == 0 ? una_fila() : std::min(f1 + menor(2), modelo_.n_filas() - 1);
+            const int c = menor(2) == 0 ? una_col() : std::min(n, modelo_.columnas - 1);
+            ASSERT_EQ(almacen_.texto(f, c), modelo_.texto(f, c)) << f << "," << c;
+        }
+        ASSERT_TRUE(c1 == 0 || primero == modelo_.texto(f1, c1)) << f1 << "," << c1;
     }
 
     int menor(int n) { return std::uniform_int_distribution<int>(0, n - 1)(azar_); }
@@ -198,7 +214,7 @@ private:
         ASSERT_TRUE(primera < 0 || (cambiadas.hay() && cambiadas.primera <= primera));
     }
 
-    // Rewrites part of a column; now and then the callback fails on the way.
+    // Rewrites part of a column, reading other cells meanwhile; now and then the callback fails on the way.
     void transforma() {
         const int c = una_col();
         const int desde = una_fila();
@@ -209,6 +225,8 @@ private:
         const auto cambia = [&](int f, std::string_view viejo, std::string& nuevo) {
             EXPECT_EQ(viejo, modelo_.texto(f, c));
             EXPECT_EQ(nuevo, "");
+            const int otra = una_col();
+            EXPECT_TRUE(otra == c || almacen_.texto(f, otra) == modelo_.texto(f, otra)) << f << "," << otra;
             if (f == falla) throw std::runtime_error("falla");
             if (f % 3 == 0) return false;
             nuevo = nuevos[static_cast<std::size_t>(f - desde)];

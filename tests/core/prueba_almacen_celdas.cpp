@@ -241,6 +241,52 @@ TEST_F(Almacen, transforma_que_falla_conserva_lo_hecho_y_no_pierde_nada) {
     EXPECT_EQ(columna(1), Textos({"", "hecho", "b", "c"}));
 }
 
+TEST_F(Almacen, transforma_lee_las_demas_celdas_de_la_fila) {
+    pon_tamano(300, 4);
+    escribe(1, Textos(299, "ab"));
+    const auto copia = [this](int fila, std::string_view, std::string& nuevo) {
+        nuevo = std::string(a.texto(fila, 1)) + std::string(a.texto(fila - 1, 1));
+        return true;
+    };
+    a.transforma(3, 1, 299, copia);
+    EXPECT_EQ(a.texto(1, 3), "ab");
+    for (int f = 2; f < 300; ++f) ASSERT_EQ(a.texto(f, 3), "abab");
+    EXPECT_EQ(a.texto(299, 2), "");
+}
+
+TEST_F(Almacen, transforma_vacia_la_ultima_columna_y_la_vuelve_a_llenar) {
+    pon_tamano(200, 3);
+    a.numera();
+    escribe(1, Textos(199, "uno"));
+    escribe(2, Textos(199, "dos"));
+    const auto vacia = [](int fila, std::string_view, std::string&) { return fila % 2 == 0; };
+    EXPECT_EQ(a.transforma(2, 1, 199, vacia).ultima, 198);
+    const auto llena = [](int, std::string_view texto, std::string& nuevo) {
+        nuevo = "tres";
+        return texto.empty();
+    };
+    EXPECT_EQ(a.transforma(2, 1, 199, llena).primera, 2);
+    for (int f = 1; f < 200; ++f) {
+        ASSERT_EQ(a.texto(f, 0), std::to_string(f));
+        ASSERT_EQ(a.texto(f, 1), "uno");
+        ASSERT_EQ(a.texto(f, 2), f % 2 == 0 ? "tres" : "dos");
+    }
+}
+
+TEST_F(Almacen, transforma_pone_textos_que_no_caben_en_los_trozos) {
+    pon_tamano(500, 3);
+    escribe(1, Textos(499, "x"));
+    const auto texto = [](int fila) { return std::string(static_cast<std::size_t>(200 + fila % 100), 'g'); };
+    for (const int col : {1, 2}) {
+        a.transforma(col, 1, 499, [&](int fila, std::string_view, std::string& nuevo) {
+            nuevo = texto(fila);
+            return true;
+        });
+    }
+    for (int f = 1; f < 500; ++f)
+        for (const int col : {1, 2}) ASSERT_EQ(a.texto(f, col), texto(f)) << f << "," << col;
+}
+
 // Rows
 
 TEST_F(Almacen, borra_varias_quita_justo_esas_filas) {
@@ -380,6 +426,29 @@ TEST_F(Almacen, una_celda_ocupa_poco_mas_que_su_texto) {
     }
     EXPECT_LT(a.bytes() - bytes_textos, 3U * FILAS * COLUMNAS);
     EXPECT_LT(a.bytes(), 16U * FILAS * COLUMNAS);
+}
+
+TEST_F(Almacen, una_columna_escrita_de_una_vez_ocupa_lo_que_escrita_celda_a_celda) {
+    constexpr int FILAS = 20'000;
+    const auto bytes_tras = [](const auto& escribe_columna) {
+        AlmacenCeldas b;
+        b.pon_columnas(10);
+        b.pon_filas(FILAS);
+        for (int f = 0; f < FILAS; ++f)
+            for (int c = 1; c < 9; ++c) b.pon_texto(f, c, c == 5 ? "" : std::to_string(f * c));
+        escribe_columna(b);
+        return b.bytes();
+    };
+    const std::size_t celda_a_celda = bytes_tras([](AlmacenCeldas& b) {
+        for (int f = 0; f < FILAS; ++f) b.pon_texto(f, 5, "123456.789");
+    });
+    const std::size_t de_una_vez = bytes_tras([](AlmacenCeldas& b) {
+        b.transforma(5, 0, FILAS - 1, [](int, std::string_view, std::string& nuevo) {
+            nuevo = "123456.789";
+            return true;
+        });
+    });
+    EXPECT_LT(de_una_vez, celda_a_celda + 100'000); // the block that is kept
 }
 
 TEST_F(Almacen, vaciar_las_celdas_devuelve_su_memoria) {

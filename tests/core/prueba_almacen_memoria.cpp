@@ -105,6 +105,7 @@ TEST_F(Almacen_sin_memoria, partir_un_trozo_que_pesa_demasiado) {
     const std::string texto(200, 'x');
     for (int f = 0; f < 20; ++f)
         for (int c = 1; c < 40; ++c) a.pon_texto(f, c, texto);
+    a.pon_color_fondo(0, 1, 19, 1, 255); // both parts need their own colours
     int fallos = 0;
     for (int c = 40; c < 200; ++c) fallos += falla_y_al_fin_puede([&] { a.pon_texto(10, c, texto); });
     EXPECT_GT(fallos, 0);

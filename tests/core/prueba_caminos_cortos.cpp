@@ -169,6 +169,28 @@ TEST(CaminosCortos, SumAndDifferenceOfColumnsFollowTheNumbers) {
     }
 }
 
+TEST(CaminosCortos, AResultInItsFormIsWhatFormattingTheResultMakesIt) {
+    constexpr int FILAS = 50'000;
+    Mesa mesa;
+    mesa.pon_tamano(5, FILAS + 1);
+    for (const int col : {0, 1, 2, 3}) mesa.pon_formato(col, T_formato::Alfanm);
+    Azar azar(6);
+    for (int fila = 1; fila <= FILAS; ++fila)
+        for (const int col : {1, 2}) mesa.t().TextMatrix(fila, col, azar.numero(9, 9));
+    for (const int decimales : {0, 1, 3, 9, 12}) {
+        mesa.pon_formato(
+            4, decimales == 0 ? T_formato::Entero : T_formato::Real__, static_cast<std::int16_t>(decimales));
+        resta_columnas(mesa.e, 1, 2, 3);
+        resta_columnas(mesa.e, 1, 2, 4);
+        for (int fila = 1; fila <= FILAS; ++fila)
+            ASSERT_EQ(mesa.celda(fila, 4), forma_llana(mesa.celda(fila, 3), decimales)) << "row " << fila;
+        diferencia_parcial(mesa.e, 1, 3, {});
+        diferencia_parcial(mesa.e, 1, 4, {});
+        for (int fila = 2; fila <= FILAS; ++fila)
+            ASSERT_EQ(mesa.celda(fila, 4), forma_llana(mesa.celda(fila, 3), decimales)) << "row " << fila;
+    }
+}
+
 /// A column of a table and the same texts in a vector, to which the plain rule is put every time.
 class ColumnaYModelo {
 public:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Column computations: results, formats, warnings, errors in the middle, what the view hears.
 #include "core/computos.h"
+#include "core/formatos.h"
 #include "tests/core/mesa.h"
 
 #include <utility>
@@ -160,6 +161,35 @@ TEST_F(Computos, AnInfiniteSumIsAnErrorAndTheRowsDoneStay) {
     EXPECT_TRUE(mesa.t().Redraw());
 }
 
+TEST_F(Computos, AfterAnErrorTheRowsDoneHaveNoFormatYet) {
+    mesa.escribe(A, {"1", "1E308", "1"});
+    mesa.escribe(B, {"1", "1E308", "1"});
+    mesa.escribe(R, {"a", "b", "c"});
+    mesa.pon_formato(R, T_formato::Real__, 2);
+    mesa.t().ColWidth(R, 77);
+    EXPECT_EQ(numero_error([&] { suma(); }), 6);
+    EXPECT_EQ(mesa.columna(R), (Textos{"2.000000000", "b", "c"}));
+    EXPECT_EQ(mesa.t().ColWidth(R), 77);
+    EXPECT_EQ(mesa.columna(A), (Textos{"1", "1E308", "1"}));
+}
+
+TEST_F(Computos, AWidthBeyond16BitsIsAnErrorAfterTheResultsWereWritten) {
+    mesa.escribe(A, {"1", "2", "3"});
+    mesa.pon_formato(R, T_formato::Real__, 2);
+    e.Formatos[R].Longitud = 300;
+    EXPECT_EQ(numero_error([&] { suma(); }), 6);
+    EXPECT_EQ(mesa.columna(R), (Textos{"1.000000000", "2.000000000", "3.000000000"}));
+}
+
+TEST_F(Computos, ANegativeSumThatRoundsToZeroLosesItsSignTheNextTimeItIsFormatted) {
+    mesa.escribe(A, {"-0.001", "1", "1"});
+    mesa.pon_formato(R, T_formato::Real__, 2);
+    suma();
+    EXPECT_EQ(mesa.celda(1, R), "-0.00");
+    Tablero_Formato_Columna(e, R);
+    EXPECT_EQ(mesa.celda(1, R), "0.00");
+}
+
 TEST_F(Computos, TheViewHearsOnceOfTheResultColumn) {
     mesa.escribe(A, {"1", "2", "3"});
     static_cast<void>(mesa.p.vista.recoge());
@@ -254,6 +284,17 @@ TEST_F(Computos, AnErrorInTheMiddleLeavesTheRowsDoneAndTellsTheirNegatives) {
     EXPECT_EQ(mesa.celda(2, R), "-1.000000000");
     EXPECT_EQ(mesa.celda(4, R), "");
     EXPECT_EQ(numero_error([&] { diferencia(A, R); }), 6);
+}
+
+TEST_F(Computos, NegativesBeforeAnErrorAreToldOnceInAColumnWithFormatToo) {
+    mesa.pon_tamano(5, 5);
+    mesa.pon_formato(R, T_formato::Real__, 1);
+    mesa.escribe(A, {"1", "0", "-1E308", "1E308"});
+    EXPECT_EQ(negativos(A, R), (P{{2, R}, {3, R}}));
+    EXPECT_EQ(mesa.celda(2, R), "-1.000000000");
+    mesa.escribe(A, {"1", "0", "2", "1"});
+    EXPECT_EQ(negativos(A, R), (P{{2, R}, {4, R}}));
+    EXPECT_EQ(mesa.columna(R), (Textos{"", "-1.0", "2.0", "-1.0"}));
 }
 
 // --- Warnings ---
