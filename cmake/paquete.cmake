@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Installing: libraries, headers, the packages for CMake and pkg-config; and what cpack makes of them: a
-# tarball, and Debian packages with the spreadsheet's helper apart, as it alone needs LibreOffice.
+# tarball, and Debian packages: the libraries for programs, what is needed to build such programs, the plugin of
+# Qt Designer, the command-line program, and the spreadsheet's helper, which alone needs LibreOffice.
 # The installed tree may be moved as a whole.
 
 include(CMakePackageConfigHelpers)
@@ -45,7 +46,7 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/Qlt4_TablaConfigVersion.c
 install(FILES ${PROJECT_BINARY_DIR}/Qlt4_TablaConfig.cmake ${PROJECT_BINARY_DIR}/Qlt4_TablaConfigVersion.cmake
   DESTINATION ${dir_paquete} COMPONENT desarrollo)
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE RENAME copyright
-  DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/qlt4-tabla COMPONENT biblioteca)
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/qlt4-tabla COMPONENT licencia)
 
 if(NOT PROJECT_IS_TOP_LEVEL)
   return()
@@ -59,26 +60,53 @@ set(CPACK_PACKAGE_CHECKSUM SHA256)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_THREADS 0)
 set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
-# One tarball; of the Debian packages one for each group.
 set(CPACK_PROJECT_CONFIG_FILE ${TABLA_DIR_CMAKE}/cpack_por_generador.cmake)
+set(CPACK_PRE_BUILD_SCRIPTS ${TABLA_DIR_CMAKE}/cpack_debian.cmake)
+# One tarball; of the Debian packages one for each component that has files.
 set(CPACK_DEB_COMPONENT_INSTALL ON)
-set(CPACK_COMPONENTS_GROUPING ONE_PER_GROUP)
+set(CPACK_COMPONENTS_GROUPING IGNORE)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS OFF)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR})
-set(CPACK_DEBIAN_PACKAGE_SECTION libdevel)
-set(CPACK_DEBIAN_TABLA_PACKAGE_NAME qlt4-tabla)
-set(CPACK_DEBIAN_TABLA_PACKAGE_RECOMMENDS qt6-base-dev)
-set(CPACK_DEBIAN_TABLA_PACKAGE_SUGGESTS qlt4-tabla-hoja)
-set(CPACK_DEBIAN_HOJA_PACKAGE_NAME qlt4-tabla-hoja)
-set(CPACK_DEBIAN_HOJA_PACKAGE_SECTION utils)
-set(CPACK_DEBIAN_HOJA_PACKAGE_DEPENDS "libreoffice-calc")
-set(CPACK_COMPONENT_GROUP_HOJA_DESCRIPTION "Helper that hands tables of Qlt4_Tabla to LibreOffice Calc")
-include(CPack)
-cpack_add_component_group(tabla)
-cpack_add_component_group(hoja)
-foreach(componente biblioteca desarrollo disenador herramientas)
-  cpack_add_component(${componente} GROUP tabla)
+
+# tabla_paquete_debian(<component> <package> <section> <what it is> [<packages it depends on>])
+function(tabla_paquete_debian componente paquete seccion que_es)
+  string(TOUPPER ${componente} C)
+  set(CPACK_DEBIAN_${C}_PACKAGE_NAME ${paquete} PARENT_SCOPE)
+  set(CPACK_DEBIAN_${C}_PACKAGE_SECTION ${seccion} PARENT_SCOPE)
+  set(CPACK_COMPONENT_${C}_DESCRIPTION "${que_es}" PARENT_SCOPE)
+  list(JOIN ARGN ", " depende)
+  set(CPACK_DEBIAN_${C}_PACKAGE_DEPENDS "${depende}" PARENT_SCOPE)
+endfunction()
+
+set(biblioteca libqlt4-tabla${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+set(de_esta_version)
+if(NOT TABLA_ESTATICA)
+  set(de_esta_version "${biblioteca} (= ${PROJECT_VERSION})")
+endif()
+set(de_qt)
+if(TARGET qlt4_tabla)
+  set(de_qt "qt6-base-dev (>= 6.4)" libgl-dev)
+  if(TABLA_ESTATICA)
+    list(APPEND de_qt qt6-svg-dev)
+  endif()
+endif()
+tabla_paquete_debian(biblioteca ${biblioteca} libs "Libraries that programs with such tables need")
+tabla_paquete_debian(desarrollo libqlt4-tabla-dev libdevel "Headers and packages for CMake and pkg-config"
+  ${de_esta_version} ${de_qt})
+tabla_paquete_debian(disenador qlt4-tabla-designer libdevel "Plugin for Qt Designer and forms loaded at run time"
+  ${de_esta_version})
+tabla_paquete_debian(herramientas qlt4-tabla-bin utils "The program tabla: table files at the command line")
+tabla_paquete_debian(hoja qlt4-tabla-hoja utils "Helper that hands tables to LibreOffice Calc" libreoffice-calc)
+set(CPACK_DEBIAN_BIBLIOTECA_PACKAGE_SUGGESTS qlt4-tabla-hoja)
+# What a package of a program on these libraries depends on.
+set(shlibs)
+foreach(objetivo qlt4_tabla_nucleo qlt4_tabla)
+  if(TARGET ${objetivo})
+    string(APPEND shlibs "lib${objetivo} ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR} ${biblioteca} (>= ${PROJECT_VERSION})\n")
+  endif()
 endforeach()
-cpack_add_component(hoja GROUP hoja)
+file(WRITE ${PROJECT_BINARY_DIR}/debian/shlibs "${shlibs}")
+set(CPACK_DEBIAN_BIBLIOTECA_PACKAGE_CONTROL_EXTRA ${PROJECT_BINARY_DIR}/debian/shlibs)
+set(CPACK_DEBIAN_DESARROLLO_PACKAGE_SUGGESTS qlt4-tabla-designer)
+include(CPack)
