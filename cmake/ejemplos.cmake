@@ -1,8 +1,10 @@
 # SPDX-License-Identifier: MIT
 # examples/<name>/*.cpp: one program <name> each, with the resources (*.qrc) and forms (*.ui) beside its
-# sources, and tests that run it. Those named here need the core alone; the others put a widget on a window.
+# sources, and tests that run it. Those named first need the core alone; the others put a widget on a window.
+# Those named next have no options: they are whole as they stand, and scripts/consumidores builds and runs them.
 
 set(TABLA_EJEMPLOS_SIN_QT informe por_identificador)
+set(TABLA_EJEMPLOS_SUELTOS minimo)
 set(dir_ejemplos ${PROJECT_BINARY_DIR}/examples)
 
 # tabla_prueba_ventana(<name>): the program draws its window into a picture and fails where the picture shows
@@ -51,7 +53,7 @@ foreach(carpeta IN LISTS carpetas)
   endif()
   set_target_properties(${nombre} PROPERTIES AUTOMOC ON AUTORCC ON AUTOUIC ON)
   target_link_libraries(${nombre} PRIVATE Qlt4_Tabla::Tabla)
-  if(TABLA_PRUEBAS)
+  if(TABLA_PRUEBAS AND NOT nombre IN_LIST TABLA_EJEMPLOS_SUELTOS)
     tabla_prueba_ventana(${nombre})
   endif()
 endforeach()

@@ -68,6 +68,7 @@ MALOS = [
     ("ficheros", "control/m.h", CABECERA + "int a;\n" * 250, "at most 250"),
     ("ficheros", "platform/m.h", CABECERA + "class M {\n" + "    virtual void f() = 0;\n" * 11 + "};\n", "at most 10"),
     ("guia", "docs/m.md", "```cpp\nint a;\n```\n", "no mark"),
+    ("guia", "docs/m.md", "```cmake\nproject(a)\n```\n", "no mark"),
     ("guia", "docs/m.md", "<!-- core/b.h : b -->\n```cpp\nint a;\n```\n", "has no region b"),
     ("guia", "docs/m.md", "<!-- examples/e/principal.cpp : uno -->\n```cpp\nt.Dos();\n```\n", "is not what"),
     ("guia", "docs/m.md", "[b](b.md)\n", "b.md does not exist"),

@@ -2,10 +2,10 @@
 """Checks that the documents say what the sources hold, and that no member goes without contract or example.
 
 guia.py --escribe puts what the sources hold into the documents.
-Every fenced C++ block of docs/ stands below a mark "<!-- file : region -->" and is, but for its indent, what that
-source has between "// begin: region" and "// end: region". Every member and event of control/miembros.h has a
-contract comment that names the errors of its row, is used in a source of examples/, and is named in the host
-guide. Relative links lead somewhere; the pictures of docs/figuras/ are shown and small.
+Every fenced C++ or CMake block stands below a mark "<!-- file : region -->" and is, but for its indent, what that
+source has between "// begin: region" and "// end: region" (CMake: "#"). Every member and event of
+control/miembros.h has a contract comment that names the errors of its row, is used in a source of examples/, and
+is named in the host guide. Relative links lead somewhere; the pictures of docs/figuras/ are shown and small.
 """
 import re
 import sys
@@ -24,14 +24,14 @@ def lee(ruta):
 
 
 def region(ruta, nombre):
-    trozo = re.search(rf"^ *// begin: {re.escape(nombre)}\n(.*?)^ *// end: {re.escape(nombre)}$", lee(ruta), re.S | re.M)
+    trozo = re.search(rf"^ *(?://|#) begin: {re.escape(nombre)}\n(.*?)^ *(?://|#) end: {re.escape(nombre)}$", lee(ruta), re.S | re.M)
     return textwrap.dedent(trozo[1]) if trozo else None
 
 
 def faltas_de_citas(ruta):
     lineas = lee(ruta).split("\n")
     for n, linea in enumerate(lineas):
-        if not linea.startswith("```cpp"):
+        if not linea.startswith(("```cpp", "```cmake")):
             continue
         marca = re.fullmatch(r"<!-- (\S+) : (\S+) -->", lineas[n - 1]) if n else None
         if marca is None:
@@ -51,7 +51,7 @@ def pon_citas(ruta):
         texto = region(m[2], m[3])
         return m[0] if texto is None else f"{m[1]}{texto}```\n"
     viejo = lee(ruta)
-    nuevo = re.sub(r"(^<!-- (\S+) : (\S+) -->\n```cpp\n).*?^```\n", cita, viejo, flags=re.S | re.M)
+    nuevo = re.sub(r"(^<!-- (\S+) : (\S+) -->\n```(?:cpp|cmake)\n).*?^```\n", cita, viejo, flags=re.S | re.M)
     if nuevo != viejo:
         (RAIZ / ruta).write_text(nuevo, encoding="utf-8")
 
