@@ -20,28 +20,55 @@ constexpr int TINTE_SELECCION = 30; // per cent of the highlight colour over a s
 constexpr int TINTE_CABECERA = 22; // and over the header cells of the selection
 constexpr int TINTE_LINEA = 16; // per cent of the text colour in a grid line
 
-QString a_qstring(std::string_view texto) {
-    return QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size()));
+Qt::Alignment lado_de(AlineacionCelda a) {
+    switch (a) {
+    case AlineacionCelda::Centro: return Qt::AlignHCenter;
+    case AlineacionCelda::Derecha: return Qt::AlignRight;
+    case AlineacionCelda::Izquierda: break;
+    }
+    return Qt::AlignLeft;
 }
 
 } // namespace
 
-PintorRejilla::PintorRejilla(const Tablero& t, Unidades u, QPainter& p, Aspecto aspecto, QSize ventana)
-    : t_(t),
-      u_(u),
-      p_(p),
-      a_(std::move(aspecto)),
-      ventana_(ventana),
-      letra_(p.fontMetrics()),
-      sel_(t.seleccion()) {
+PintorRejilla::PintorRejilla(
+    const Tablero& t, Unidades u, QPainter& p, TextosPreparados& textos, Aspecto aspecto, QSize ventana)
+    : t_(t), u_(u), p_(p), a_(std::move(aspecto)), ventana_(ventana), pluma_(p, textos), sel_(t.seleccion()) {
     const auto grupo = a_.activa ? QPalette::Active : QPalette::Disabled;
     a_.paleta.setCurrentColorGroup(grupo);
     base_ = a_.paleta.color(QPalette::Base);
     fija_ = a_.paleta.color(QPalette::Button);
-    linea_ = mezcla(base_, a_.paleta.color(QPalette::Text), TINTE_LINEA);
-    linea_fija_ = mezcla(fija_, a_.paleta.color(QPalette::ButtonText), TINTE_LINEA + 6);
+    texto_ = a_.paleta.color(QPalette::Text);
+    texto_fijo_ = a_.paleta.color(QPalette::ButtonText);
+    linea_ = mezcla(base_, texto_, TINTE_LINEA);
+    linea_fija_ = mezcla(fija_, texto_fijo_, TINTE_LINEA + 6);
     realce_ = a_.paleta.color(QPalette::Highlight);
     if (!a_.con_foco) realce_ = mezcla(realce_, a_.paleta.color(QPalette::Mid), 50);
+    if (t_.Rows() == 0 || t_.Cols() == 0) return;
+    mide_columnas();
+    mide_filas();
+}
+
+void PintorRejilla::mide_columnas() {
+    const int fin_fija = u_.px_x(t_.ancho_visible(0));
+    columnas_.push_back({0, 0, fin_fija});
+    int x = x_columna(t_, 1);
+    for (int col = 1; col < t_.Cols() && u_.px_x(x) < ventana_.width(); ++col) {
+        const Tira tira{col, u_.px_x(x), u_.px_x(x + t_.ancho_visible(col))};
+        x += t_.ancho_visible(col);
+        if (tira.desde < tira.hasta && tira.hasta > fin_fija) columnas_.push_back(tira);
+    }
+}
+
+void PintorRejilla::mide_filas() {
+    const int ultima = ultima_fila_visible(t_);
+    int y = t_.RowHeight(0);
+    filas_.push_back({0, 0, u_.px_y(y)});
+    for (int fila = t_.TopRow(); fila <= ultima; ++fila) {
+        const Tira tira{fila, u_.px_y(y), u_.px_y(y + t_.RowHeight(fila))};
+        y += t_.RowHeight(fila);
+        if (tira.desde < tira.hasta) filas_.push_back(tira);
+    }
 }
 
 QRect PintorRejilla::rect(int fila, int col) const {
@@ -51,132 +78,139 @@ QRect PintorRejilla::rect(int fila, int col) const {
     return {x, y, u_.px_x(r.derecha()) - x, u_.px_y(r.abajo()) - y};
 }
 
+// Those with a pixel from `desde` to `hasta`.
+PintorRejilla::Tiras PintorRejilla::que_tocan(Tiras tiras, int desde, int hasta) {
+    const auto a =
+        std::find_if(tiras.begin(), tiras.end(), [desde](const Tira& t) { return t.hasta > desde; });
+    const auto b = std::find_if(a, tiras.end(), [hasta](const Tira& t) { return t.desde > hasta; });
+    return {a, b};
+}
+
+QRect PintorRejilla::cuadro(Tiras filas, Tiras columnas) {
+    return {QPoint(columnas.front().desde, filas.front().desde),
+        QPoint(columnas.back().hasta - 1, filas.back().hasta - 1)};
+}
+
 // The painter may come with the clip of another dirty rectangle.
 void PintorRejilla::pinta(const QRect& sucio) {
     p_.setClipRect(sucio);
-    if (t_.Rows() == 0 || t_.Cols() == 0) {
-        pinta_fuera(sucio);
-        return;
-    }
-    const int x0 = u_.px_x(t_.ancho_visible(0));
-    const int y0 = u_.px_y(t_.RowHeight(0));
-    const QRect datos(QPoint(x0, y0), QPoint(ventana_.width() - 1, ventana_.height() - 1));
     pinta_fuera(sucio);
-    pinta_zona(datos, sucio, false, false);
-    pinta_zona(QRect(0, y0, x0, ventana_.height() - y0), sucio, false, true);
-    pinta_zona(QRect(x0, 0, ventana_.width() - x0, y0), sucio, true, false);
-    pinta_zona(QRect(0, 0, x0, y0), sucio, true, true);
+    if (columnas_.empty()) return;
+    const int x0 = columnas_.front().hasta;
+    const int y0 = filas_.front().hasta;
+    const QSize resto(ventana_.width() - x0, ventana_.height() - y0);
+    const Tiras cabecera = Tiras(filas_).first(1);
+    const Tiras filas = Tiras(filas_).subspan(1);
+    const Tiras numeros = Tiras(columnas_).first(1);
+    const Tiras columnas = Tiras(columnas_).subspan(1);
+    pinta_zona(filas, columnas, sucio & QRect(QPoint(x0, y0), resto));
+    pinta_zona(filas, numeros, sucio & QRect(0, y0, x0, resto.height()));
+    pinta_zona(cabecera, columnas, sucio & QRect(x0, 0, resto.width(), y0));
+    pinta_zona(cabecera, numeros, sucio & QRect(0, 0, x0, y0));
     p_.setClipRect(sucio);
     pinta_marco();
 }
 
+// Right of the last column, and below the last row.
 void PintorRejilla::pinta_fuera(const QRect& sucio) {
-    p_.fillRect(sucio, mezcla(base_, a_.paleta.color(QPalette::Window), 70));
+    const int x = columnas_.empty() ? 0 : columnas_.back().hasta;
+    const int y = filas_.empty() ? 0 : filas_.back().hasta;
+    const QColor color = mezcla(base_, a_.paleta.color(QPalette::Window), 70);
+    p_.fillRect(sucio & QRect(x, 0, ventana_.width() - x, ventana_.height()), color);
+    p_.fillRect(sucio & QRect(0, y, x, ventana_.height() - y), color);
 }
 
-void PintorRejilla::pinta_zona(const QRect& zona, const QRect& sucio, bool fila_fija, bool columna_fija) {
-    const QRect parte = zona.intersected(sucio);
-    if (parte.isEmpty()) return;
+void PintorRejilla::pinta_zona(Tiras filas, Tiras columnas, const QRect& parte) {
+    const Tiras altas = que_tocan(filas, parte.top(), parte.bottom());
+    const Tiras anchas = que_tocan(columnas, parte.left(), parte.right());
+    if (parte.isEmpty() || altas.empty() || anchas.empty()) return;
     p_.setClipRect(parte);
-    const int primera = columna_fija ? 0 : 1;
-    const int ultima = columna_fija ? 0 : t_.Cols() - 1;
-    int x = x_columna(t_, primera);
-    for (int col = primera; col <= ultima; ++col) {
-        const int siguiente = x + t_.ancho_visible(col);
-        const Columna c{col, u_.px_x(x), u_.px_x(siguiente)};
-        x = siguiente;
-        if (c.x2 <= parte.left() || c.x2 == c.x1) continue;
-        if (c.x1 > parte.right()) break;
-        pinta_columna(c, parte, fila_fija);
-    }
-}
-
-void PintorRejilla::pinta_columna(const Columna& c, const QRect& zona, bool fila_fija) {
-    if (fila_fija) {
-        pinta_celda(0, c.col, QRect(c.x1, 0, c.x2 - c.x1, u_.px_y(t_.RowHeight(0))));
-        return;
-    }
-    const int ultima = ultima_fila_visible(t_);
-    const bool funde = t_.MergeCells() != 0 && t_.MergeCol(c.col);
-    int y = t_.RowHeight(0);
-    for (int fila = t_.TopRow(); fila <= ultima; ++fila) {
-        const int siguiente = y + t_.RowHeight(fila);
-        const int y1 = u_.px_y(y);
-        const int y2 = u_.px_y(siguiente);
-        y = siguiente;
-        if (y2 <= zona.top() && !funde) continue;
-        if (y1 > zona.bottom()) break;
-        if (funde) {
-            const Tramo tramo = tramo_fundido(t_, fila, c.col, t_.TopRow(), ultima);
-            if (tramo.desde != tramo.hasta) {
-                pinta_fundida(c, fila, tramo.hasta, y1);
-                for (; fila < tramo.hasta; ++fila) y += t_.RowHeight(fila + 1);
-                continue;
-            }
+    pinta_fondos(altas, anchas);
+    pinta_lineas(altas, anchas);
+    for (const Tira& c : anchas) {
+        if (funde(c.indice) && altas.front().indice != 0) {
+            pinta_fundida(filas, c);
+            continue;
         }
-        if (y1 < y2) pinta_celda(fila, c.col, QRect(c.x1, y1, c.x2 - c.x1, y2 - y1));
+        for (const Tira& f : altas) pinta_celda(f, c);
+    }
+    pluma_.vuelca();
+}
+
+// The common colour in one piece, then what differs from it.
+void PintorRejilla::pinta_fondos(Tiras filas, Tiras columnas) {
+    const QColor& comun = filas.front().indice == 0 || columnas.front().indice == 0 ? fija_ : base_;
+    p_.fillRect(cuadro(filas, columnas), comun);
+    for (const Tira& c : columnas) pinta_fondo(filas, c, comun);
+}
+
+// Neighbours of one colour in one piece; where it is there already, nothing.
+void PintorRejilla::pinta_fondo(Tiras filas, const Tira& columna, const QColor& hay) {
+    for (std::size_t i = 0, j = 0; i < filas.size(); i = j) {
+        const QColor color = fondo(filas[i].indice, columna.indice);
+        for (j = i + 1; j < filas.size() && fondo(filas[j].indice, columna.indice) == color;) ++j;
+        if (color != hay) p_.fillRect(cuadro(filas.subspan(i, j - i), Tiras(&columna, 1)), color);
     }
 }
 
-void PintorRejilla::pinta_celda(int fila, int col, const QRect& celda) {
-    const QColor f = fondo(fila, col);
-    p_.fillRect(celda, f);
-    pinta_lineas(celda, fila == 0 || col == 0);
-    if (fila == a_.ocultar_fila && col == a_.ocultar_col) return;
-    pinta_contenido(fila, col, celda, f);
+// At the right and at the bottom of each.
+void PintorRejilla::pinta_lineas(Tiras filas, Tiras columnas) {
+    const QColor& color = filas.front().indice == 0 || columnas.front().indice == 0 ? linea_fija_ : linea_;
+    const QRect todo = cuadro(filas, columnas);
+    for (const Tira& c : columnas)
+        p_.fillRect(QRect(c.hasta - LINEA_PX, todo.top(), LINEA_PX, todo.height()), color);
+    for (const Tira& f : filas)
+        p_.fillRect(QRect(todo.left(), f.hasta - LINEA_PX, todo.width(), LINEA_PX), color);
 }
 
-// A run of equal cells: each row keeps its own background, no line stands between them, and the text
-// stands once in the middle of the part that is seen.
-void PintorRejilla::pinta_fundida(const Columna& c, int fila, int ultima, int y1) {
-    int y = y1;
-    for (int r = fila; r <= ultima; ++r) {
-        const int alto = u_.px_y(t_.RowHeight(r));
-        p_.fillRect(QRect(c.x1, y, c.x2 - c.x1, alto), fondo(r, c.col));
-        y += alto;
+bool PintorRejilla::funde(int col) const { return t_.MergeCells() != 0 && t_.MergeCol(col); }
+
+// In a run of equal cells each row keeps its own background, no line stands between them, and the text stands
+// once in the middle of the part that is seen.
+void PintorRejilla::pinta_fundida(Tiras filas, const Tira& columna) {
+    const Tiras c(&columna, 1);
+    for (std::size_t i = 0, j = 0; i < filas.size(); i = j) {
+        const Tramo tramo =
+            tramo_fundido(t_, filas[i].indice, columna.indice, filas.front().indice, filas.back().indice);
+        for (j = i + 1; j < filas.size() && filas[j].indice <= tramo.hasta;) ++j;
+        if (j == i + 1) {
+            pinta_celda(filas[i], columna);
+            continue;
+        }
+        const Tira junta{filas[i].indice, filas[i].desde, filas[j - 1].hasta};
+        pinta_fondo(filas.subspan(i, j - i), columna, QColor());
+        pinta_lineas(Tiras(&junta, 1), c);
+        const QRect vista = cuadro(Tiras(&junta, 1), c) & QRect(QPoint(0, 0), ventana_);
+        pinta_contenido(junta.indice, columna.indice, vista);
     }
-    const QRect todo(c.x1, y1, c.x2 - c.x1, y - y1);
-    pinta_lineas(todo, c.col == 0);
-    pinta_contenido(fila, c.col, todo.intersected(QRect(QPoint(0, 0), ventana_)), fondo(fila, c.col));
 }
 
-void PintorRejilla::pinta_lineas(const QRect& celda, bool fija) {
-    const QColor& color = fija ? linea_fija_ : linea_;
-    p_.fillRect(QRect(celda.right() - LINEA_PX + 1, celda.top(), LINEA_PX, celda.height()), color);
-    p_.fillRect(QRect(celda.left(), celda.bottom() - LINEA_PX + 1, celda.width(), LINEA_PX), color);
+void PintorRejilla::pinta_celda(const Tira& fila, const Tira& columna) {
+    if (fila.indice == a_.ocultar_fila && columna.indice == a_.ocultar_col) return;
+    pinta_contenido(fila.indice, columna.indice, cuadro(Tiras(&fila, 1), Tiras(&columna, 1)));
 }
 
-void PintorRejilla::pinta_contenido(int fila, int col, const QRect& celda, const QColor& f) {
+void PintorRejilla::pinta_contenido(int fila, int col, const QRect& celda) {
     const std::string_view texto = t_.TextMatrix(fila, col);
     QRect sitio = celda.adjusted(MARGEN_TEXTO_PX, 0, -MARGEN_TEXTO_PX - LINEA_PX, -LINEA_PX);
-    if (const auto imagen = t_.CellPicture(fila, col)) {
-        if (const auto* qt = dynamic_cast<const ImagenQt*>(imagen.get())) {
-            QRect hueco = celda.adjusted(1, 1, -1 - LINEA_PX, -1 - LINEA_PX);
-            if (!texto.empty()) hueco.setWidth(std::min(hueco.width(), 2 * hueco.height()));
-            QSize talla = qt->imagen().size().scaled(hueco.size(), Qt::KeepAspectRatio);
-            QRect destino(QPoint(0, 0), talla);
-            destino.moveCenter(hueco.center());
-            if (!texto.empty()) destino.moveLeft(hueco.left());
-            p_.setRenderHint(QPainter::SmoothPixmapTransform);
-            p_.drawImage(destino, qt->imagen());
-            sitio.setLeft(destino.right() + MARGEN_TEXTO_PX);
-        }
-    }
-    if (!texto.empty()) pinta_texto(sitio, col, texto, color_texto(fila, col, f));
+    if (const auto imagen = t_.CellPicture(fila, col))
+        sitio.setLeft(pinta_imagen(*imagen, celda, !texto.empty()));
+    if (!texto.empty())
+        pluma_.escribe(celda, sitio, lado_de(t_.ColAlignment(col)), texto, color_texto(fila, col));
 }
 
-void PintorRejilla::pinta_texto(const QRect& sitio, int col, std::string_view texto, const QColor& color) {
-    if (sitio.width() <= 0) return;
-    QString s = a_qstring(texto);
-    if (letra_.horizontalAdvance(s) > sitio.width()) s = letra_.elidedText(s, Qt::ElideRight, sitio.width());
-    int banderas = Qt::AlignVCenter | Qt::TextSingleLine;
-    switch (t_.ColAlignment(col)) {
-    case AlineacionCelda::Centro: banderas |= Qt::AlignHCenter; break;
-    case AlineacionCelda::Derecha: banderas |= Qt::AlignRight; break;
-    case AlineacionCelda::Izquierda: banderas |= Qt::AlignLeft; break;
-    }
-    p_.setPen(color);
-    p_.drawText(sitio, banderas, s);
+// At the left of the text, which begins where the answer says.
+int PintorRejilla::pinta_imagen(const Imagen& imagen, const QRect& celda, bool con_texto) {
+    const auto* const qt = dynamic_cast<const ImagenQt*>(&imagen);
+    if (qt == nullptr) return celda.left() + MARGEN_TEXTO_PX;
+    QRect hueco = celda.adjusted(1, 1, -1 - LINEA_PX, -1 - LINEA_PX);
+    if (con_texto) hueco.setWidth(std::min(hueco.width(), 2 * hueco.height()));
+    QRect destino(QPoint(0, 0), qt->imagen().size().scaled(hueco.size(), Qt::KeepAspectRatio));
+    destino.moveCenter(hueco.center());
+    if (con_texto) destino.moveLeft(hueco.left());
+    p_.setRenderHint(QPainter::SmoothPixmapTransform);
+    p_.drawImage(destino, qt->imagen());
+    return destino.right() + MARGEN_TEXTO_PX;
 }
 
 bool PintorRejilla::marcada(int fila, int col) const {
@@ -199,13 +233,12 @@ QColor PintorRejilla::fondo(int fila, int col) const {
 
 // Text colour 0 is the default: the palette's where the cell has no colour of its own, else black or white
 // by contrast. Any other text colour is kept.
-QColor PintorRejilla::color_texto(int fila, int col, const QColor& f) const {
+QColor PintorRejilla::color_texto(int fila, int col) const {
     const std::int32_t propio = t_.color_texto(fila, col);
     if (propio != 0) return color_de_pantalla(propio, a_.paleta);
     const bool coloreada = t_.tiene_fondo(fila, col) && t_.color_fondo(fila, col) != COLOR_CARA_BOTON;
-    if (coloreada) return contraste(f);
-    const bool fija = fila == 0 || col == 0;
-    return a_.paleta.color(fija ? QPalette::ButtonText : QPalette::Text);
+    if (coloreada) return contraste(fondo(fila, col));
+    return fila == 0 || col == 0 ? texto_fijo_ : texto_;
 }
 
 void PintorRejilla::pinta_marco() {

@@ -24,8 +24,9 @@ public:
     [[nodiscard]] int twips_y(int px) const { return a_twips(px, dpi_y_); }
 
 private:
+    // Halves go up on both sides of 0, so that what is scrolled keeps its pixels.
     static int a_px(int twips, int dpi) {
-        return static_cast<int>(std::lround(static_cast<double>(twips) * dpi / TWIPS_POR_PULGADA));
+        return static_cast<int>(std::floor(static_cast<double>(twips) * dpi / TWIPS_POR_PULGADA + 0.5));
     }
 
     static int a_twips(int px, int dpi) {

@@ -10,6 +10,7 @@
 #include "qt/teclas_qt.h"
 #include "qt/texto_qt.h"
 #include "qt/textos.h"
+#include "qt/textos_preparados.h"
 
 #include <QInputMethodEvent>
 #include <QKeyEvent>
@@ -181,7 +182,8 @@ void VistaColumnas::paintEvent(QPaintEvent* e) {
         aspecto.ocultar_col = c.col;
     }
     QPainter p(viewport());
-    PintorRejilla(modelo_.tablero(), unidades(), p, aspecto, viewport()->size()).pinta(e->rect());
+    TextosPreparados textos; // so few that they need not be kept
+    PintorRejilla(modelo_.tablero(), unidades(), p, textos, aspecto, viewport()->size()).pinta(e->rect());
 }
 
 void VistaColumnas::resizeEvent(QResizeEvent* /*e*/) { mide(); }

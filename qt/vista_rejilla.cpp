@@ -210,8 +210,8 @@ void VistaRejilla::paintEvent(QPaintEvent* e) {
         aspecto.ocultar_col = editor.col();
     }
     QPainter p(viewport());
-    for (const QRect& zona : e->region())
-        PintorRejilla(tablero(), unidades(), p, aspecto, viewport()->size()).pinta(zona);
+    PintorRejilla pintor(tablero(), unidades(), p, textos_, aspecto, viewport()->size());
+    for (const QRect& zona : e->region()) pintor.pinta(zona);
 }
 
 void VistaRejilla::resizeEvent(QResizeEvent* /*e*/) {
@@ -226,6 +226,7 @@ void VistaRejilla::mide_filas() {
 }
 
 void VistaRejilla::changeEvent(QEvent* e) {
+    textos_.olvida();
     if (e->type() == QEvent::FontChange) mide_filas();
     if (e->type() == QEvent::PaletteChange || e->type() == QEvent::EnabledChange) viewport()->update();
     QAbstractScrollArea::changeEvent(e);

@@ -7,6 +7,7 @@
 #ifndef Q_MOC_RUN // the scanner cannot read letters beyond ASCII in published names
 #include "control/tabla0.h"
 #endif
+#include "qt/textos_preparados.h"
 #include "qt/unidades.h"
 
 #include <QAbstractScrollArea>
@@ -95,6 +96,7 @@ private:
 
     Tabla0& tabla_;
     Dibujado dibujado_;
+    TextosPreparados textos_;
     int pedidos_ = 0; // repaint requests since the last painting
     QPoint raton_;
     int columna_en_mano_ = -1; // column whose edge is dragged

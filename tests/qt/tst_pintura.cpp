@@ -7,6 +7,7 @@
 #include "qt/colores_qt.h"
 #include "qt/imagen_qt.h"
 #include "qt/pintor_rejilla.h"
+#include "qt/textos_preparados.h"
 
 #include <QImage>
 #include <QPainter>
@@ -46,7 +47,7 @@ public:
         foto.fill(Qt::magenta);
         QPainter p(&foto);
         PintorRejilla::Aspecto a{paleta, con_foco};
-        PintorRejilla(t, u, p, a, QSize(ANCHO, ALTO)).pinta(QRect(0, 0, ANCHO, ALTO));
+        PintorRejilla(t, u, p, textos, a, QSize(ANCHO, ALTO)).pinta(QRect(0, 0, ANCHO, ALTO));
         return foto;
     }
 
@@ -84,6 +85,7 @@ public:
     Tablero t;
     Unidades u{medida_};
     QPalette paleta;
+    TextosPreparados textos;
     bool con_foco = true;
 };
 
@@ -469,7 +471,7 @@ void TstPintura::una_zona_sucia_se_pinta_igual_que_el_todo() {
     for (const QRect& zona : zonas) {
         QImage foto = todo;
         QPainter p(&foto);
-        PintorRejilla(l.t, l.u, p, {l.paleta, true}, QSize(ANCHO, ALTO)).pinta(zona);
+        PintorRejilla(l.t, l.u, p, l.textos, {l.paleta, true}, QSize(ANCHO, ALTO)).pinta(zona);
         p.end();
         QVERIFY2(foto == todo, qPrintable(QStringLiteral("%1 %2").arg(zona.x()).arg(zona.y())));
     }
@@ -486,7 +488,7 @@ void TstPintura::varias_zonas_con_un_pintor_dan_el_todo() {
     QPainter p(&foto);
     for (const QRect& zona : {QRect(0, 0, ANCHO, 30), QRect(0, 30, 70, 41), QRect(70, 30, ANCHO - 70, 41),
              QRect(0, 71, ANCHO, ALTO - 71)})
-        PintorRejilla(l.t, l.u, p, {l.paleta, true}, QSize(ANCHO, ALTO)).pinta(zona);
+        PintorRejilla(l.t, l.u, p, l.textos, {l.paleta, true}, QSize(ANCHO, ALTO)).pinta(zona);
     p.end();
     QCOMPARE(foto, todo);
 }
