@@ -2,6 +2,7 @@
 // Decimals of at most 15 significant digits: base/decimal.h.
 #include "base/decimal.h"
 
+#include "base/cifras.h"
 #include "base/error.h"
 #include "base/numeros.h"
 
@@ -31,8 +32,6 @@ constexpr auto potencias = [] {
     for (std::size_t i = 1; i < p.size(); ++i) p[i] = p[i - 1] * 10;
     return p;
 }();
-
-constexpr bool es_cifra(char c) noexcept { return c >= '0' && c <= '9'; }
 
 // Without its last `sobran` digits (1 or more), rounded half away from zero.
 std::uint64_t redondea(std::uint64_t cifras, int sobran) noexcept {

@@ -16,13 +16,13 @@
 namespace Qlt4_Tabla {
 
 template <class B>
-concept Bytes = requires(const B& b) {
+concept BytesQueSeLeen = requires(const B& b) {
     { b.size() } -> std::convertible_to<std::size_t>;
     requires sizeof(b[0]) == 1;
 };
 
 template <class B>
-concept BytesQueCrecen = Bytes<B> && requires(B& b) {
+concept BytesQueCrecen = BytesQueSeLeen<B> && requires(B& b) {
     b.push_back(b[0]);
 };
 
@@ -72,33 +72,33 @@ void pon32(B& destino, std::uint32_t n) {
 }
 
 // Overwrites the bytes from `pos` on; error 9, and nothing written, where they do not all exist.
-template <Bytes B>
+template <BytesQueSeLeen B>
 void cambia16(B& destino, std::size_t pos, std::uint16_t n) {
     detalle_bytes::cambia(destino, pos, n, 2);
 }
 
-template <Bytes B>
+template <BytesQueSeLeen B>
 void cambia32(B& destino, std::size_t pos, std::uint32_t n) {
     detalle_bytes::cambia(destino, pos, n, 4);
 }
 
 // The number at byte `pos`; error 62 where the buffer ends before it.
-template <Bytes B>
+template <BytesQueSeLeen B>
 std::uint16_t lee16(const B& origen, std::size_t pos) {
     return static_cast<std::uint16_t>(detalle_bytes::lee(origen, pos, 2));
 }
 
-template <Bytes B>
+template <BytesQueSeLeen B>
 std::uint32_t lee32(const B& origen, std::size_t pos) {
     return detalle_bytes::lee(origen, pos, 4);
 }
 
-template <Bytes B>
+template <BytesQueSeLeen B>
 std::int16_t lee16_con_signo(const B& origen, std::size_t pos) {
     return static_cast<std::int16_t>(lee16(origen, pos));
 }
 
-template <Bytes B>
+template <BytesQueSeLeen B>
 std::int32_t lee32_con_signo(const B& origen, std::size_t pos) {
     return static_cast<std::int32_t>(lee32(origen, pos));
 }

@@ -4,6 +4,7 @@
 #include "base/numeros.h"
 
 #include "base/aritmetica.h"
+#include "base/cifras.h"
 #include "base/decimal.h"
 #include "base/error.h"
 #include "base/textos.h"
@@ -20,8 +21,6 @@ namespace {
 constexpr std::size_t texto_corto = 100;
 
 constexpr bool es_blanco(char c) noexcept { return c == ' ' || c == '\t' || c == '\n'; }
-
-constexpr bool es_cifra(char c) noexcept { return c >= '0' && c <= '9'; }
 
 constexpr char minuscula(char c) noexcept {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;

@@ -29,11 +29,10 @@ void aplica(EstadoTabla& e, const Bloque& bloque, std::string_view nombre, std::
 // The colour that a cell shows or names, white where it does neither: black would be no choice at all.
 std::int32_t color_de_celda(const EstadoTabla& e, int fila, int col) {
     if (e.edicionColor && e.tablero.tiene_fondo(fila, col)) return e.tablero.color_fondo(fila, col);
-    constexpr int BLANCO = 7;
     try {
         return paleta_a_pantalla(entero16_de_texto(nombre_a_numero(e.tablero.TextMatrix(fila, col))));
     } catch (const Error&) { // a text that is no colour
-        return paleta_a_pantalla(BLANCO);
+        return paleta_a_pantalla(INDICE_BLANCO);
     }
 }
 

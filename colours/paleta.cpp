@@ -15,7 +15,6 @@ namespace Qlt4_Tabla {
 namespace {
 
 constexpr std::int32_t BLANCO = 0xFFFFFF;
-constexpr std::int16_t INDICE_BLANCO = 7;
 
 // Screen colour of each palette index; the index of a line's first entry stands behind it.
 // clang-format off

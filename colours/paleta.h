@@ -13,6 +13,9 @@
 
 namespace Qlt4_Tabla {
 
+/// Palette index of white, which also stands for every screen colour that has none.
+inline constexpr std::int16_t INDICE_BLANCO = 7;
+
 /// Screen colour of a palette index. Below 0 and above 254: white, 0xFFFFFF.
 [[nodiscard]] std::int32_t paleta_a_pantalla(std::int32_t indice) noexcept;
 

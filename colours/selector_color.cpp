@@ -19,14 +19,13 @@ namespace Qlt4_Tabla {
 namespace {
 
 constexpr int NINGUNA = -1;
-constexpr int BLANCO = 7;
 constexpr int ULTIMO_INDICE = 255;
 constexpr int ULTIMO_BASICO = 9;
 constexpr int PRIMER_GRIS = 250;
 constexpr std::int32_t COLOR_MAYOR = 0xFFFFFF;
 
 // Names that the box takes for numbers.
-constexpr int ULTIMO_CON_NOMBRE = 7;
+constexpr int ULTIMO_ESCRITO = 7;
 
 // The block of all other colours: a column holds the ten shades of one hue, which the palette numbers by tens.
 constexpr int TONOS = 24;
@@ -128,7 +127,7 @@ bool iguales(std::string_view texto, std::string_view nombre) {
 // What the text of the box means; too large a number is one above every index.
 int indice_de_texto(std::string_view texto) {
     const std::string_view recortado = sin_blancos(texto);
-    for (int i = 1; i <= ULTIMO_CON_NOMBRE; ++i)
+    for (int i = 1; i <= ULTIMO_ESCRITO; ++i)
         if (iguales(recortado, textos::nombres_color[static_cast<std::size_t>(i)])) return i;
     return entero16_de_real(std::clamp(Val(recortado), -32768.0, 32767.0));
 }
@@ -138,7 +137,7 @@ int indice_de_color(std::int32_t color) {
     for (int i = 1; i <= ULTIMO_INDICE; ++i)
         if (paleta_a_pantalla(i) == color) return i;
     const int por_clave = pantalla_a_paleta(color);
-    return por_clave == BLANCO ? NINGUNA : por_clave; // white itself is in the table
+    return por_clave == INDICE_BLANCO ? NINGUNA : por_clave; // white itself is in the table
 }
 
 float lee_coordenada(const Ajustes& ajustes, std::string_view clave) {
@@ -225,8 +224,8 @@ void F_color::teclea(std::string_view texto) {
         elige(indice);
         return;
     }
-    visto_.texto = numero_a_texto(BLANCO);
-    elige(BLANCO);
+    visto_.texto = numero_a_texto(INDICE_BLANCO);
+    elige(INDICE_BLANCO);
     if (indice < 0) mensajes_.pitido();
 }
 

@@ -16,19 +16,19 @@ constexpr bool antes_sin_caja(std::string_view a, std::string_view b) {
         [](char x, char y) { return en_minuscula(x) < en_minuscula(y); });
 }
 
-using Orden = std::array<const Miembro*, MIEMBROS.size()>;
+using Indice = std::array<const Miembro*, MIEMBROS.size()>;
 
 template <class Antes>
-consteval Orden ordena(Antes antes) {
-    Orden orden{};
+consteval Indice ordena(Antes antes) {
+    Indice orden{};
     std::transform(MIEMBROS.begin(), MIEMBROS.end(), orden.begin(), [](const Miembro& m) { return &m; });
     std::sort(orden.begin(), orden.end(), [&](auto* a, auto* b) { return antes(*a, *b); });
     return orden;
 }
 
-constexpr Orden POR_NOMBRE =
+constexpr Indice POR_NOMBRE =
     ordena([](const Miembro& a, const Miembro& b) { return antes_sin_caja(a.nombre, b.nombre); });
-constexpr Orden POR_DISPID = ordena([](const Miembro& a, const Miembro& b) { return a.dispid < b.dispid; });
+constexpr Indice POR_DISPID = ordena([](const Miembro& a, const Miembro& b) { return a.dispid < b.dispid; });
 
 } // namespace
 

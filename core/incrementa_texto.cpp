@@ -3,6 +3,7 @@
 // themselves, so that no length of number overflows.
 #include "core/incrementa_texto.h"
 
+#include "base/cifras.h"
 #include "base/utf8.h"
 
 #include <algorithm>
@@ -10,8 +11,6 @@
 namespace Qlt4_Tabla {
 
 namespace {
-
-bool es_cifra(char c) noexcept { return c >= '0' && c <= '9'; }
 
 // The number plus one. `cifras` has no leading zeros and may be empty, which is 0.
 std::string sucesor(std::string_view cifras) {

@@ -2,6 +2,7 @@
 // The rules between cell texts, numbers and keys: core/reglas_valor.h.
 #include "core/reglas_valor.h"
 
+#include "base/cifras.h"
 #include "base/decimal.h"
 #include "base/numeros.h"
 #include "base/teclas.h"
@@ -45,8 +46,6 @@ void escribe_igual(std::string_view texto, int ancho, std::string& destino) {
     destino.assign(texto);
     if (ancho > 0) rellena(destino, ancho, utf8::longitud(texto));
 }
-
-bool es_cifra(int tecla) noexcept { return tecla >= '0' && tecla <= '9'; }
 
 // Codes that are no character of the code page, and Backspace: no filter touches them.
 bool pasa_siempre(int tecla) noexcept { return tecla <= 0 || tecla > 255 || tecla == teclas::RETROCESO; }

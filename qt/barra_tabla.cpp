@@ -18,7 +18,7 @@ namespace Qlt4_Tabla {
 namespace {
 
 constexpr int HUECO_PX = 6;
-constexpr int MARGEN_PX = 2;
+constexpr int MARGEN_BARRA_PX = 2;
 
 struct Dibujo {
     const char* clave;
@@ -39,7 +39,7 @@ constexpr Dibujo DIBUJOS[] = {
 BarraTabla::BarraTabla(VistaRejilla& vista, QWidget* padre) : QWidget(padre), vista_(vista) {
     setObjectName(QStringLiteral("toolBar"));
     auto* fila = new QHBoxLayout(this);
-    fila->setContentsMargins(MARGEN_PX, MARGEN_PX, MARGEN_PX, MARGEN_PX);
+    fila->setContentsMargins(MARGEN_BARRA_PX, MARGEN_BARRA_PX, MARGEN_BARRA_PX, MARGEN_BARRA_PX);
     fila->setSpacing(1);
     for (const BotonBarra& dato : Mandos::barra()) {
         const QString clave = a_qstring(dato.clave);
@@ -69,7 +69,7 @@ BarraTabla::BarraTabla(VistaRejilla& vista, QWidget* padre) : QWidget(padre), vi
 }
 
 void BarraTabla::pon_iconos() {
-    const int lado = fontMetrics().height() + MARGEN_PX * 2;
+    const int lado = fontMetrics().height() + MARGEN_BARRA_PX * 2;
     for (const Dibujo& d : DIBUJOS) {
         auto* boton = findChild<QToolButton*>(QString::fromLatin1(d.clave), Qt::FindDirectChildrenOnly);
         if (boton == nullptr) continue;

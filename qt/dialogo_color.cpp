@@ -20,14 +20,13 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <cmath>
 
 namespace Qlt4_Tabla {
 
 namespace {
 
 constexpr int ALTO_PLEGADO = 1785; // twips
-constexpr int MARGEN_PX = 10;
+constexpr int MARGEN_DIALOGO_PX = 10;
 constexpr int ESPACIO_PX = 8;
 constexpr const char* NOMBRES_TIRA[] = {"Pc_color_normal", "Pc_color_grises", "Pc_color_especial"};
 constexpr std::string_view VOCES_TIRA[] = {textos::tira_normal, textos::tira_grises, textos::tira_especial};
@@ -59,8 +58,6 @@ QPointF sitio_de(const VistoColor& v) {
     return {static_cast<qreal>(v.izquierda), static_cast<qreal>(v.arriba)};
 }
 
-int a_twips_enteros(float twips) { return static_cast<int>(std::lround(std::clamp(twips, -1.0e7F, 1.0e7F))); }
-
 } // namespace
 
 VentanaColor::VentanaColor(ModeloColor& modelo, QWidget* padre) : QDialog(padre), modelo_(modelo) {
@@ -68,7 +65,7 @@ VentanaColor::VentanaColor(ModeloColor& modelo, QWidget* padre) : QDialog(padre)
     setWindowTitle(a_qstring(modelo.visto().titulo));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     auto* todo = new QVBoxLayout(this);
-    todo->setContentsMargins(MARGEN_PX, MARGEN_PX, MARGEN_PX, MARGEN_PX);
+    todo->setContentsMargins(MARGEN_DIALOGO_PX, MARGEN_DIALOGO_PX, MARGEN_DIALOGO_PX, MARGEN_DIALOGO_PX);
     todo->setSpacing(ESPACIO_PX);
     for (std::size_t i = 0; i < tiras_.size(); ++i) {
         const TiraColor cual = TIRAS_COLOR[i];
@@ -225,7 +222,7 @@ void VentanaColor::enfoca_marcada() {
 void VentanaColor::coloca() {
     const Unidades u(*this);
     const VistoColor& v = modelo_.visto();
-    const QPoint p(u.px_x(a_twips_enteros(v.izquierda)), u.px_y(a_twips_enteros(v.arriba)));
+    const QPoint p(u.px_x(twips_enteros(v.izquierda)), u.px_y(twips_enteros(v.arriba)));
     puesta_en_ = dentro_de_pantalla(*this, p);
     move(puesta_en_);
 }

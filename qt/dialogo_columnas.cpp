@@ -20,15 +20,12 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <cmath>
 
 namespace Qlt4_Tabla {
 
 namespace {
 
 constexpr QSize AIRE_BOTON(12, 0); // beside its text, more than the style gives
-
-int a_twips_enteros(float twips) { return static_cast<int>(std::lround(twips)); }
 
 // The text of a control as it is seen, though "&" marks a key in it.
 QString sin_tecla(QString texto) { return texto.replace(QLatin1Char('&'), QStringLiteral("&&")); }
@@ -163,10 +160,10 @@ void VentanaColumnas::coloca() {
     const Unidades u(*this);
     const VistoColumnas& v = modelo_.visto();
     setMinimumSize(cabe_en_pantalla(*this, {u.px_x(v.ancho_minimo), u.px_y(v.alto_minimo)}));
-    resize(cabe_en_pantalla(*this, {u.px_x(a_twips_enteros(v.ancho)), u.px_y(a_twips_enteros(v.alto))}));
+    resize(cabe_en_pantalla(*this, {u.px_x(twips_enteros(v.ancho)), u.px_y(twips_enteros(v.alto))}));
     const QPoint medio = parentWidget()->window()->frameGeometry().center() - rect().center();
-    const QPoint p(v.izquierda ? u.px_x(a_twips_enteros(*v.izquierda)) : medio.x(),
-        v.arriba ? u.px_y(a_twips_enteros(*v.arriba)) : medio.y());
+    const QPoint p(v.izquierda ? u.px_x(twips_enteros(*v.izquierda)) : medio.x(),
+        v.arriba ? u.px_y(twips_enteros(*v.arriba)) : medio.y());
     puesta_en_ = QRect(dentro_de_pantalla(*this, p), size());
     move(puesta_en_.topLeft());
 }

@@ -6,6 +6,7 @@
 #include "qt/casilla.h"
 #include "qt/lista_celda.h"
 #include "qt/tabla_widget.h"
+#include "qt/texto_qt.h"
 #include "qt/textos.h"
 #include "qt/vista_rejilla.h"
 
@@ -18,8 +19,6 @@
 namespace Qlt4_Tabla {
 
 namespace {
-
-QString a_q(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size())); }
 
 constexpr int PACIENCIA_MS = 1000; // how long a command may take without saying how far it is
 
@@ -149,7 +148,7 @@ void PuertosQt::enfoca_barra() {
 }
 
 void PuertosQt::propiedad_cambiada(std::string_view nombre) {
-    if (vista_) emit widget_.propiedad_cambiada(a_q(nombre));
+    if (vista_) emit widget_.propiedad_cambiada(a_qstring(nombre));
 }
 
 void PuertosQt::enfoca_tablero() {
@@ -159,7 +158,7 @@ void PuertosQt::enfoca_tablero() {
 // --- CajaTexto ---
 
 void PuertosQt::muestra(const Rectangulo& celda, std::string_view texto) {
-    if (casilla_) casilla_->muestra(px(celda), a_q(texto));
+    if (casilla_) casilla_->muestra(px(celda), a_qstring(texto));
 }
 
 // Hiding a widget that has the focus gives it to the next one of the form; the grid takes it before.
@@ -176,7 +175,7 @@ void PuertosQt::mueve(const Rectangulo& celda) {
 std::string PuertosQt::texto() const { return casilla_ ? casilla_->text().toStdString() : std::string(); }
 
 void PuertosQt::pon_texto(std::string_view texto) {
-    if (casilla_) casilla_->setText(a_q(texto));
+    if (casilla_) casilla_->setText(a_qstring(texto));
 }
 
 int PuertosQt::cursor() const {
@@ -199,7 +198,7 @@ void PuertosQt::selecciona(int inicio, int longitud) {
 void PuertosQt::Lista::muestra(const Rectangulo& celda, std::span<const std::string> entradas, int elegida) {
     if (!p_.cob_lista_) return;
     QStringList textos;
-    for (const std::string& s : entradas) textos << a_q(s);
+    for (const std::string& s : entradas) textos << a_qstring(s);
     p_.cob_lista_->muestra(p_.px(celda), textos, elegida);
 }
 
@@ -226,14 +225,14 @@ Respuesta PuertosQt::mensaje(std::string_view texto, EstiloMensaje estilo, std::
     QWidget* const dialogo = QApplication::activeModalWidget();
     QMessageBox caja(dialogo != nullptr ? dialogo : widget_.window());
     caja.setTextFormat(Qt::PlainText);
-    caja.setText(a_q(texto));
-    caja.setWindowTitle(titulo.empty() ? QApplication::applicationDisplayName() : a_q(titulo));
+    caja.setText(a_qstring(texto));
+    caja.setWindowTitle(titulo.empty() ? QApplication::applicationDisplayName() : a_qstring(titulo));
     const bool critico = estilo == EstiloMensaje::Critico || estilo == EstiloMensaje::CriticoSiNo;
     if (critico) caja.setIcon(QMessageBox::Critical);
     if (estilo == EstiloMensaje::Informacion) caja.setIcon(QMessageBox::Information);
     // Qt would name the buttons in the language of the system, or in English.
     const auto nombra = [&caja](QMessageBox::StandardButton boton, std::string_view nombre) {
-        caja.addButton(boton)->setText(a_q(nombre));
+        caja.addButton(boton)->setText(a_qstring(nombre));
     };
     if (estilo != EstiloMensaje::CriticoSiNo) {
         nombra(QMessageBox::Ok, textos::aceptar);
@@ -262,7 +261,7 @@ void PuertosQt::puntero(Puntero forma) {
 }
 
 void PuertosQt::avance(std::string_view que, int por_ciento) {
-    if (reloj_ && espera_.hasExpired(PACIENCIA_MS)) widget_.muestra_avance(a_q(que), por_ciento);
+    if (reloj_ && espera_.hasExpired(PACIENCIA_MS)) widget_.muestra_avance(a_qstring(que), por_ciento);
 }
 
 // --- SeparadorDecimal ---

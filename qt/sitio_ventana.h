@@ -7,8 +7,16 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <cmath>
 
 namespace Qlt4_Tabla {
+
+/// A remembered place or size as whole twips; one far beyond any screen is brought near, so that it can be
+/// reckoned with.
+[[nodiscard]] inline int twips_enteros(float twips) {
+    constexpr float LEJOS = 1.0e7F;
+    return static_cast<int>(std::lround(std::clamp(twips, -LEJOS, LEJOS)));
+}
 
 /// Room for a window's frame, before it is known.
 inline constexpr QSize MARCO_VENTANA(16, 40);

@@ -99,7 +99,7 @@ void TstColumnasSitio::la_primera_vez_sale_sobre_su_ventana() {
 
 void TstColumnasSitio::fuera_de_la_pantalla_vuelve_a_ella() {
     MesaColumnas m;
-    for (const char* lejos : {"-9000000", "9000000"}) {
+    for (const char* lejos : {"-9000000", "9000000", "1E+30", "-1E+30"}) {
         AjustesQt a(m.carpeta.filePath(QStringLiteral("a.ini")));
         for (const char* clave : {"MainLeft", "MainTop", "MainWidth", "MainHeight"})
             a.escribe("Plano", "PosPuntos", clave, lejos);
