@@ -29,7 +29,7 @@ void prepara(Tabla0& t) {
     t.FormatoColumnas( // 3. formats
         VERTICE, false, false, T_formato::Alfanm, 0, T_Alineacion::Izqda, T_Accion::Increm, 9,
         textos::VERTICE);
-    formato(t, NUMERO, "", T_formato::Alfanm, 0, 4);
+    formato(t, NUMERO, "", T_formato::Alfanm, 0, 4); // row numbers: not seen before they have a width
     formato(t, TERRENO, textos::TERRENO, T_formato::Real__, 3, 10);
     formato(t, RASANTE, textos::RASANTE, T_formato::Real__, 3, 10);
     formato(t, DESNIVEL, textos::DESNIVEL, T_formato::Real__, 3, 10, true); // locked: the host computes it

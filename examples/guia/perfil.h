@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 class QStatusBar;
 
@@ -44,6 +45,12 @@ void pregunta_color(Qlt4_Tabla::Tabla0& t);
 void ida_y_vuelta(Qlt4_Tabla::Tabla0& t, const std::string& fichero);
 void guarda_forma(Qlt4_Tabla::Tabla0& t);
 void lee_forma(Qlt4_Tabla::Tabla0& t);
+
+// puntos.cpp: points as vectors, the file when the window closes.
+void carga_puntos(
+    Qlt4_Tabla::TablaWidget& widget, const std::vector<double>& xs, const std::vector<double>& ys);
+std::vector<double> lee_xs(Qlt4_Tabla::TablaWidget& widget);
+bool puede_cerrar(Qlt4_Tabla::TablaWidget& widget, const std::string& fichero);
 
 // trato.cpp: events, selection, errors, calls by name, other threads.
 void escucha(Qlt4_Tabla::TablaWidget& widget, QStatusBar& estado);

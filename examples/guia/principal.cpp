@@ -3,6 +3,7 @@
 // what the guide says, and shows the window. Where to read on: perfil.cpp.
 #include "../comun/ejemplo.h"
 #include "perfil.h"
+#include "seccion.h"
 #include "textos.h"
 
 #include <QDir>
@@ -108,6 +109,46 @@ void comprueba_capas(Tabla0& t) {
     pon_tamano(t);
 }
 
+void comprueba_puntos() {
+    constexpr int CUANTOS = 10'000;
+    std::vector<double> xs(CUANTOS), ys(CUANTOS);
+    for (std::size_t i = 0; i < xs.size(); ++i) {
+        xs[i] = static_cast<double>(i) / 8;
+        ys[i] = -xs[i];
+    }
+    TablaWidget widget;
+    Tabla0& t = widget.tabla();
+    carga_puntos(widget, xs, ys);
+    exige(t.Rows(), CUANTOS + 1, "rows");
+    exige(t.TextMatrix(CUANTOS, 1), "P10000", "names");
+    exige(t.TextMatrix(CUANTOS, 3), "-1249,875", "last row");
+    t.mandos().elige_celda(2, 2);
+    t.mandos().tecla_pulsada('7'); // opens the editor, as a key does
+    xs[1] = 7;
+    exige(lee_xs(widget) == xs ? 1 : 0, 1, "read back");
+
+    const QTemporaryDir carpeta;
+    const QString fichero = QDir(carpeta.path()).filePath(QStringLiteral("puntos.tb0"));
+    t.mandos().elige_celda(3, 2);
+    t.mandos().tecla_pulsada('8');
+    exige(puede_cerrar(widget, fichero.toStdString()) ? 1 : 0, 1, "closing");
+    t.Clear();
+    t.Tablero_Leer(fichero.toStdString());
+    exige(t.TextMatrix(3, 2), "8,000", "typed before closing");
+}
+
+void comprueba_dibujo(Tabla0& t, Seccion& seccion) {
+    rellena(t);
+    seccion.grab();
+    exige(static_cast<int>(seccion.cotas().size()), t.Rows() - 1, "drawing");
+    t.mandos().elige_celda(1, TERRENO);
+    t.mandos().tecla_pulsada('9');
+    t.mandos().editor().confirma_y_cierra();
+    seccion.grab();
+    exige(static_cast<int>(seccion.cotas().front()), 9, "drawing follows");
+    rellena(t);
+}
+
 void pon_menu(QMainWindow& ventana, Tabla0& t) {
     QMenu* menu = ventana.menuBar()->addMenu(textos::MENU);
     // begin: ordenes
@@ -135,11 +176,14 @@ int main(int argc, char** argv) {
     auto* division = new QSplitter(Qt::Vertical, &ventana);
     auto* perfil = new TablaWidget(division); // two tables share nothing
     auto* capas = new TablaWidget(division);
+    auto* seccion = new Seccion(*perfil, division);
     ventana.setCentralWidget(division);
     prepara(perfil->tabla());
     escucha(*perfil, *ventana.statusBar());
     // end: varias
     comprueba_datos(perfil->tabla());
+    comprueba_dibujo(perfil->tabla(), *seccion);
+    comprueba_puntos();
     comprueba_colores(perfil->tabla());
     comprueba_trato(*perfil);
     comprueba_ficheros(*perfil);
@@ -149,6 +193,6 @@ int main(int argc, char** argv) {
     pon_menu(ventana, perfil->tabla());
     ventana.setWindowTitle(textos::VENTANA);
     ventana.resize(820, 560);
-    division->setSizes({340, 220});
+    division->setSizes({300, 160, 100});
     return ejemplos::corre(ventana, opciones);
 }

@@ -22,6 +22,10 @@ inline const QString CAMBIADA = QStringLiteral("Cambiada la casilla %1, %2");
 inline const QString DE_LISTA = QStringLiteral("Valor de lista nuevo en %1, %2");
 inline const QString ELEGIDAS = QStringLiteral("Filas %1 a %2");
 
+inline const QString PUNTO = QStringLiteral("Punto");
+inline const QString X = QStringLiteral("X");
+inline const QString Y = QStringLiteral("Y");
+
 inline constexpr char TITULO[] = "Perfil del colector";
 inline constexpr char SUBTITULO[] = "Vértices";
 inline constexpr char VERTICE[] = "Vértice";
