@@ -8,9 +8,11 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
+#include <cstring>
 #include <limits>
 #include <span>
 
@@ -40,16 +42,64 @@ std::uint64_t redondea(std::uint64_t cifras, int sobran) noexcept {
     return (cifras + divisor / 2) / divisor;
 }
 
-// Goes on with the digits that follow; where they end.
+constexpr std::uint64_t en_cada_byte(std::uint64_t n) noexcept { return n * 0x0101010101010101U; }
+
+// The number of eight digits, one a byte, the first one lowest. Neighbours are put together three times: to pairs,
+// fours and the eight.
+constexpr std::uint64_t junta_ocho(std::uint64_t cifras) noexcept {
+    cifras = (cifras * 10 + (cifras >> 8U)) & 0x00FF00FF00FF00FFU;
+    cifras = (cifras * 100 + (cifras >> 16U)) & 0x0000FFFF0000FFFFU;
+    return (cifras * 10'000 + (cifras >> 32U)) & 0xFFFFFFFFU;
+}
+
+// The way back; `n` below 10^8.
+constexpr std::uint64_t separa_ocho(std::uint64_t n) noexcept {
+    std::uint64_t alto = n / 10'000;
+    n = alto | (n - alto * 10'000) << 32U;
+    alto = (n * 10'486 >> 20U) & 0x0000007F0000007FU; // each four, divided by 100
+    n = alto | (n - alto * 100) << 16U;
+    alto = (n * 103 >> 10U) & 0x000F000F000F000FU; // each pair, divided by 10
+    return alto | (n - alto * 10) << 8U;
+}
+
+static_assert(
+    junta_ocho(0x0807060504030201U) == 12'345'678 && separa_ocho(12'345'678) == 0x0807060504030201U);
+static_assert(junta_ocho(en_cada_byte(9)) == 99'999'999 && separa_ocho(99'999'999) == en_cada_byte(9));
+
+// Goes on with the digits that follow; where they end. By eights, where the first character is the lowest byte.
 const char* lee_cifras(const char* p, const char* fin, std::uint64_t& cifras) noexcept {
+    while (std::endian::native == std::endian::little && fin - p >= 8) {
+        std::uint64_t w = 0;
+        std::memcpy(&w, p, 8);
+        w ^= en_cada_byte('0');
+        const std::uint64_t ajenos = (w | (w + en_cada_byte(6))) & en_cada_byte(0xF0); // not 0 to 9
+        const auto n = static_cast<unsigned>(std::countr_zero(ajenos)) / 8;
+        if (n == 0) return p;
+        cifras = cifras * potencias[n] + junta_ocho(w << (64 - 8 * n));
+        p += n;
+        if (n < 8) return p;
+    }
     for (; p != fin && es_cifra(*p); ++p) cifras = cifras * 10 + static_cast<std::uint64_t>(*p - '0');
     return p;
 }
 
-// The last `cuantas` digits of the number; what is in front of them.
-std::uint64_t pon_ultimas(std::uint64_t n, int cuantas, char* destino) noexcept {
-    for (char* p = destino + cuantas; p != destino; n /= 10) *--p = static_cast<char>('0' + n % 10);
-    return n;
+constexpr std::size_t cifras_todas = 16;
+
+// A number below 10^16 with all its digits, zeros in front; how many those are.
+std::ptrdiff_t escribe_todas(std::uint64_t n, char* destino) noexcept {
+    if constexpr (std::endian::native == std::endian::little) {
+        constexpr std::uint64_t mitad = potencias[8];
+        const std::array<std::uint64_t, 2> w{separa_ocho(n / mitad), separa_ocho(n % mitad)};
+        for (std::size_t i = 0; i < w.size(); ++i) {
+            const std::uint64_t letras = w[i] + en_cada_byte('0');
+            std::memcpy(destino + 8 * i, &letras, 8);
+        }
+        return (w[0] != 0 ? std::countr_zero(w[0]) : 64 + std::countr_zero(w[1])) / 8;
+    } else {
+        char* const fin = destino + cifras_todas;
+        for (char* p = fin; p != destino; n /= 10) *--p = static_cast<char>('0' + n % 10);
+        return std::find_if(destino, fin, [](char c) { return c != '0'; }) - destino;
+    }
 }
 
 char* pon_ceros(char* destino, std::ptrdiff_t cuantos) noexcept {
@@ -119,6 +169,15 @@ std::size_t escribe_con_ceros(const Decimal& numero, int decimales, char* destin
 
 } // namespace
 
+// Both are whole numbers that a double holds, so the result is the nearest one.
+double real_de_decimal(const Decimal& numero) noexcept {
+    const auto potencia =
+        static_cast<double>(potencias[static_cast<std::size_t>(std::abs(numero.decimales))]);
+    const auto cifras = static_cast<double>(numero.cifras);
+    const double x = numero.decimales < 0 ? cifras * potencia : cifras / potencia;
+    return numero.negativo ? -x : x;
+}
+
 Decimal decimal_de_real(double x, int significativas) {
     if (!std::isfinite(x)) lanza(NumError::Desbordamiento);
     if (x == 0) return {};
@@ -186,13 +245,17 @@ std::size_t escribe_fijo(const Decimal& numero, int decimales, char* destino) no
     // The number counted in units of its last decimal.
     const std::uint64_t unidades = ceros < 0 ? redondea(numero.cifras, -ceros)
                                              : numero.cifras * potencias[static_cast<std::size_t>(ceros)];
+    char todas[2 * cifras_todas] = {}; // the second half is copied and not shown
+    const std::ptrdiff_t ceros_delante = escribe_todas(unidades, todas);
+    const char* const punto = todas + cifras_todas - decimales;
+    const char* const primera = std::min<const char*>(todas + ceros_delante, punto - 1);
     char* p = destino;
     if (numero.negativo) *p++ = '-';
-    const std::uint64_t divisor = potencias[static_cast<std::size_t>(decimales)];
-    p = std::to_chars(p, p + maximas_cifras + 1, unidades / divisor).ptr;
+    std::memcpy(p, primera, cifras_todas);
+    p += punto - primera;
     if (decimales > 0) {
         *p++ = '.';
-        pon_ultimas(unidades % divisor, decimales, p);
+        std::memcpy(p, punto, cifras_todas);
         p += decimales;
     }
     return static_cast<std::size_t>(p - destino);

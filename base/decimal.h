@@ -2,7 +2,8 @@
 // A decimal number of at most 15 significant digits: what the texts of numbers show. Any such
 // decimal of ordinary size is unchanged by the way through a double and back to 15 digits, so one
 // taken straight from its text may be written without making the double.
-// Main names: Decimal, decimal_de_real, decimal_de_texto, suma_exacta, escribe_fijo, escribe_numero.
+// Main names: Decimal, decimal_de_real, decimal_de_texto, real_de_decimal, suma_exacta, escribe_fijo,
+// escribe_numero.
 // For use by base/numeros.cpp and the value rules of core/; others take base/numeros.h.
 #pragma once
 
@@ -29,12 +30,15 @@ Decimal decimal_de_real(double x, int significativas = 15);
 // other text, though it may be a number.
 std::optional<Decimal> decimal_de_texto(std::string_view texto) noexcept;
 
+// The double nearest to a number with at most 15 decimals, or as many zeros behind its digits.
+double real_de_decimal(const Decimal& numero) noexcept;
+
 // a + b where both have 0 to 9 decimals and the sum of their doubles is sure to show the same number with 9
 // decimals; else nothing.
 std::optional<Decimal> suma_exacta(const Decimal& a, const Decimal& b) noexcept;
 
 // formato_fijo of the number with `decimales` 0 to 15; the number of bytes written. `destino` has
-// capacidad_fijo bytes.
+// capacidad_fijo bytes, of which those behind the text are overwritten too.
 std::size_t escribe_fijo(const Decimal& numero, int decimales, char* destino) noexcept;
 
 // numero_a_texto of the number, whose `cifras` have no trailing zeros: plain while it is below

@@ -108,11 +108,10 @@ std::string_view AlmacenCeldas::busca_texto(int fila, int col) const {
 }
 
 void AlmacenCeldas::lee_fila(int fila, int col, std::span<std::string_view> textos) const {
-    if (textos.empty()) return;
-    textos.front() = texto(fila, col);
     const LugarFila l = yo_->indice.busca(fila);
-    CeldasDeFila celdas = l.trozo->celdas(l.i, col + 1);
-    for (std::string_view& t : textos.subspan(1)) t = yo_->texto(celdas.siguiente(), fila, yo_->cifras);
+    CeldasDeFila celdas = l.trozo->celdas(l.i, col);
+    for (std::string_view& t : textos) t = yo_->texto(celdas.siguiente(), fila, yo_->cifras);
+    if (col == 0 && !textos.empty()) textos.front() = yo_->texto(l.trozo->celda(l.i, 0), fila, yo_->cifras);
 }
 
 bool AlmacenCeldas::iguales(int fila1, int col1, int fila2, int col2) const {
@@ -220,41 +219,57 @@ bool AlmacenCeldas::Interior::escribe_fila(int fila, int col, std::span<const st
     return true;
 }
 
-FilasCambiadas AlmacenCeldas::transforma(int col, int desde, int hasta, const CambioCelda& cambia) {
+// Many rows: in each chunk one after the other by a Reescritura. `paso(trozo, i, fila)` gives it the cells of a row;
+// where they cannot go this way, `aparte(fila)` writes them once those above are in their place.
+template <class Paso, class Aparte>
+FilasCambiadas AlmacenCeldas::escribe_filas(int fila, int hasta, const Paso& paso, const Aparte& aparte) {
     FilasCambiadas cambiadas;
-    while (desde <= hasta) desde = transforma_seguidas(col, desde, hasta, cambia, cambiadas);
+    Reescritura& nuevas = yo_->nuevas;
+    while (fila <= hasta) {
+        const LugarFila l = yo_->indice.busca(fila);
+        const int primera = fila - l.i;
+        const int fin = std::min(hasta + 1, primera + l.trozo->filas());
+        nuevas.empieza(*l.trozo);
+        try {
+            for (Escrita escrita = Escrita::Igual; fila < fin; ++fila) {
+                escrita = paso(*l.trozo, fila - primera, fila);
+                if (escrita == Escrita::No) break;
+                if (escrita == Escrita::Otra) cambiadas.extiende(fila, fila);
+            }
+        } catch (...) {
+            para_cambiar();
+            nuevas.acaba();
+            throw;
+        }
+        para_cambiar();
+        nuevas.acaba();
+        if (fila == fin) continue;
+        if (aparte(fila)) cambiadas.extiende(fila, fila);
+        ++fila;
+    }
     return cambiadas;
 }
 
-// Rows from `fila` on to the end of their chunk or to the first one that must be written by itself; the next row.
-int AlmacenCeldas::transforma_seguidas(
-    int col, int fila, int hasta, const CambioCelda& cambia, FilasCambiadas& cambiadas) {
-    const LugarFila l = yo_->indice.busca(fila);
-    const int primera = fila - l.i;
-    const int fin = std::min(hasta + 1, primera + l.trozo->filas());
-    Reescritura& nuevas = yo_->nuevas;
-    nuevas.empieza(*l.trozo);
+FilasCambiadas AlmacenCeldas::transforma(int col, int desde, int hasta, const CambioCelda& cambia) {
     std::string nuevo;
-    try {
-        for (; fila < fin; ++fila) {
-            const std::string_view viejo = yo_->texto(l.trozo->celda(fila - primera, col), fila, yo_->cifras);
-            nuevo.clear();
-            if (!cambia(fila, viejo, nuevo)) continue;
-            const std::array<std::string_view, 1> uno{nuevo};
-            if (col != 0 && viejo == nuevo) continue;
-            if (col == 0 || !nuevas.pon(fila - primera, col, uno)) break;
-            cambiadas.extiende(fila, fila);
-        }
-    } catch (...) {
-        para_cambiar();
-        nuevas.acaba();
-        throw;
-    }
-    para_cambiar();
-    nuevas.acaba();
-    if (fila == fin) return fin;
-    if (yo_->escribe(fila, col, nuevo)) cambiadas.extiende(fila, fila);
-    return fila + 1;
+    const auto paso = [&](const Trozo& t, int i, int fila) {
+        const std::string_view viejo = yo_->texto(t.celda(i, col), fila, yo_->cifras);
+        nuevo.clear();
+        if (!cambia(fila, viejo, nuevo)) return Escrita::Igual;
+        if (col == 0) return Escrita::No;
+        const std::array<std::string_view, 1> uno{nuevo};
+        return viejo == nuevo ? Escrita::Igual : yo_->nuevas.pon(i, col, uno);
+    };
+    return escribe_filas(desde, hasta, paso, [&](int fila) { return yo_->escribe(fila, col, nuevo); });
+}
+
+FilasCambiadas AlmacenCeldas::pon_filas(int desde, int hasta, int col, const TextosDeFila& da) {
+    std::span<const std::string_view> textos;
+    const auto paso = [&](const Trozo&, int i, int fila) {
+        textos = da(fila);
+        return yo_->nuevas.pon(i, col, textos);
+    };
+    return escribe_filas(desde, hasta, paso, [&](int fila) { return yo_->escribe_fila(fila, col, textos); });
 }
 
 // Rows

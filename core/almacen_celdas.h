@@ -46,6 +46,9 @@ struct FilasCambiadas {
 /// and not write it.
 using CambioCelda = std::function<bool(int fila, std::string_view texto, std::string& nuevo)>;
 
+/// The new texts of a row's cells, good until the next call. It must not write the store.
+using TextosDeFila = std::function<std::span<const std::string_view>(int fila)>;
+
 class TABLA_API AlmacenCeldas {
 public:
     AlmacenCeldas();
@@ -75,6 +78,9 @@ public:
     /// Writes neighbouring cells of one row from column `col` on, in one go; the others stay. True when any
     /// had another text.
     bool pon_fila(int fila, int col, std::span<const std::string_view> textos);
+    /// The same for rows `desde`..`hasta` and a `col` above 0, in one pass: `da` gives the texts of each row. If it
+    /// throws, the rows before stay written.
+    FilasCambiadas pon_filas(int desde, int hasta, int col, const TextosDeFila& da);
     /// Rewrites column `col` of rows `desde`..`hasta` in one pass. If `cambia` throws, the rows before stay
     /// rewritten and nothing is lost.
     FilasCambiadas transforma(int col, int desde, int hasta, const CambioCelda& cambia);
@@ -113,8 +119,8 @@ private:
     struct Interior;
 
     [[nodiscard]] std::string_view busca_texto(int fila, int col) const;
-    int transforma_seguidas(
-        int col, int fila, int hasta, const CambioCelda& cambia, FilasCambiadas& cambiadas);
+    template <class Paso, class Aparte>
+    FilasCambiadas escribe_filas(int fila, int hasta, const Paso& paso, const Aparte& aparte);
 
     // The way to every change.
     Interior& para_cambiar() {

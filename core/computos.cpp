@@ -36,8 +36,6 @@ void exige_en_tablero(const Tablero& t, std::initializer_list<std::int32_t> colu
         if (col < 0 || col >= t.Cols()) lanza(NumError::Subindice);
 }
 
-double numero(const Tablero& t, int fila, int col) { return Valor_Numerico(t.TextMatrix(fila, col)); }
-
 // An invisible column stays so.
 void esconde(EstadoTabla& e, int col) {
     if (formato(e, col).Invisible) e.tablero.ColWidth(col, 0);
@@ -54,18 +52,13 @@ void aplica_formato(EstadoTabla& e, int col) {
     esconde(e, col);
 }
 
-// Writes into each data row what `resultado(row, old text, new text)` puts there and applies the column's format.
-// Results that come from other columns are written in their last form at once.
-template <class Resultado>
-void escribe_columna(EstadoTabla& e, int col, bool de_otras, const Resultado& resultado) {
+// Writes the results into the data rows and applies the column's format. Results that come from other columns are
+// written in their last form at once.
+void escribe_columna(EstadoTabla& e, int col, bool de_otras, const ComputoColumna& computo) {
     const int ultima = e.tablero.Rows() - 1;
     if (ultima >= 1) refresca_ComaDecimal(e);
-    const CambioCelda cambia = [&](int fila, std::string_view texto, std::string& nuevo) {
-        resultado(fila, texto, nuevo);
-        return nuevo != texto;
-    };
-    if (de_otras && transforma_con_formato(e, col, cambia)) return esconde(e, col);
-    e.tablero.transforma_columna(col, 1, ultima, cambia);
+    if (de_otras && computa_con_formato(e, col, computo)) return esconde(e, col);
+    e.tablero.transforma_columna(col, 1, ultima, computo.texto);
     aplica_formato(e, col);
 }
 
@@ -80,17 +73,19 @@ std::optional<Decimal> opera_decimales(std::string_view a, Operacion operacion, 
     return suma_exacta(*x, *y);
 }
 
-// The result of two texts; the short way over their digits gives the same as their numbers do.
-void opera(std::string_view a, Operacion operacion, std::string_view b, std::string& nuevo) {
+// The result of two texts; is it below 0? The short way over their digits gives the same as their numbers do.
+bool opera(std::string_view a, Operacion operacion, std::string_view b, std::string& nuevo) {
     static_assert(DECIMALES_RESULTADO == 9, "what suma_exacta is sure of");
     if (const std::optional<Decimal> resultado = opera_decimales(a, operacion, b)) {
         char cifras[capacidad_fijo];
         nuevo.assign(cifras, escribe_fijo(*resultado, DECIMALES_RESULTADO, cifras));
-        return;
+        return resultado->negativo;
     }
     const double x = Valor_Numerico(a);
     const double y = Valor_Numerico(b);
-    Formato_Numero(operacion == Operacion::Suma ? x + y : x - y, 0, DECIMALES_RESULTADO, nuevo);
+    const double resultado = operacion == Operacion::Suma ? x + y : x - y;
+    Formato_Numero(resultado, 0, DECIMALES_RESULTADO, nuevo);
+    return resultado < 0;
 }
 
 void opera_columnas(
@@ -98,26 +93,30 @@ void opera_columnas(
     const Tablero& t = e.tablero;
     exige_en_tablero(t, {colA, colB, colResul});
     const RedibujoSuspendido suspendido(e.tablero);
-    const bool de_otras = colResul != colA && colResul != colB;
-    escribe_columna(e, colResul, de_otras, [&](int fila, std::string_view, std::string& nuevo) {
+    const auto texto = [&](int fila, std::string_view viejo, std::string& nuevo) {
         opera(t.TextMatrix(fila, colA), operacion, t.TextMatrix(fila, colB), nuevo);
-    });
+        return nuevo != viejo;
+    };
+    const auto numero = [&](int fila) {
+        return opera_decimales(t.TextMatrix(fila, colA), operacion, t.TextMatrix(fila, colB));
+    };
+    escribe_columna(e, colResul, colResul != colA && colResul != colB, {texto, numero});
 }
 
 // Writes the differences; the rows of the negative ones into `negativas`.
 void escribe_diferencias(EstadoTabla& e, int columna, int colResul, std::vector<int>& negativas) {
     const bool en_si_misma = columna == colResul;
-    double anterior = 0;
-    escribe_columna(e, colResul, !en_si_misma, [&](int fila, std::string_view texto, std::string& nuevo) {
-        if (fila == 1) negativas.clear(); // it may be done twice
-        const double actual = en_si_misma ? Valor_Numerico(texto) : numero(e.tablero, fila, columna);
-        if (fila > 1) {
-            const double diferencia = actual - anterior;
-            Formato_Numero(diferencia, 0, DECIMALES_RESULTADO, nuevo);
-            if (diferencia < 0) negativas.push_back(fila);
-        }
-        anterior = en_si_misma ? Valor_Numerico(nuevo) : actual;
-    });
+    std::string anterior;
+    const auto texto = [&](int fila, std::string_view viejo, std::string& nuevo) {
+        const std::string_view actual = en_si_misma ? viejo : e.tablero.TextMatrix(fila, columna);
+        if (fila == 1)
+            negativas.clear(); // it may be done twice
+        else if (opera(actual, Operacion::Resta, anterior, nuevo))
+            negativas.push_back(fila);
+        anterior = en_si_misma ? nuevo : actual;
+        return nuevo != viejo;
+    };
+    escribe_columna(e, colResul, !en_si_misma, {texto, {}});
 }
 
 } // namespace

@@ -93,6 +93,12 @@ void muestra_numero(std::string_view texto, int decimales, std::string& destino)
     destino.assign(cifras, escribe_numero(Valor_Numerico(texto), cifras, capacidad_numero));
 }
 
+void muestra_decimal(const Decimal& numero, int decimales, std::string& destino) {
+    constexpr int maximos = 15;
+    char cifras[capacidad_fijo];
+    destino.assign(cifras, escribe_fijo(numero, std::min(decimales, maximos), cifras));
+}
+
 /// What applying its format does to the cells of a column; `nombre` tells two of them apart.
 struct FormaColumna {
     std::string nombre;
@@ -183,17 +189,24 @@ void Tablero_Formato_Columna(EstadoTabla& e, int col) {
     if (const auto forma = forma_de(e, col)) e.tablero.da_forma(col, forma->nombre, forma->da);
 }
 
-bool transforma_con_formato(EstadoTabla& e, int col, const CambioCelda& cambia) {
+bool computa_con_formato(EstadoTabla& e, int col, const ComputoColumna& computo) {
     bool hecho = false;
     sin_errores([&] {
-        const int ancho = ancho_en_twips(formato(e, col));
+        const T_FormatoColumna& f = formato(e, col);
+        const int ancho = ancho_en_twips(f);
         const auto forma = forma_de(e, col);
+        const int decimales = computo.numero && es_real(f.Formato) ? f.Decimales : 0;
         std::string sin_forma;
         e.tablero.transforma_columna(
             col, 1, e.tablero.Rows() - 1, [&](int fila, std::string_view texto, std::string& nuevo) {
-                sin_forma.clear();
-                if (!cambia(fila, texto, sin_forma)) sin_forma = texto;
-                if (!forma || !forma->da(fila, sin_forma, nuevo)) nuevo.swap(sin_forma);
+                const auto numero = decimales > 0 ? computo.numero(fila) : std::nullopt;
+                if (numero) {
+                    muestra_decimal(*numero, decimales, nuevo);
+                } else {
+                    sin_forma.clear();
+                    if (!computo.texto(fila, texto, sin_forma)) sin_forma = texto;
+                    if (!forma || !forma->da(fila, sin_forma, nuevo)) nuevo.swap(sin_forma);
+                }
                 return nuevo != texto;
             });
         e.tablero.ColWidth(col, ancho);

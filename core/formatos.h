@@ -3,9 +3,12 @@
 // Members of the same names in control/ call these. Columns outside 0..25: error 9, nothing stored.
 #pragma once
 
+#include "base/decimal.h"
 #include "core/estado_tabla.h"
 
 #include <cstdint>
+#include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -27,10 +30,18 @@ void Tablero_Formato_por_defecto(EstadoTabla& e);
 void Tablero_establece_Formato(EstadoTabla& e);
 /// One column's width and value format.
 void Tablero_Formato_Columna(EstadoTabla& e, int col);
-/// Rewrites the data cells of a column (AlmacenCeldas) and applies its format to what they become, in one pass.
-/// `cambia` must not read the column. False where an error came up: whoever asked does one after the other then,
-/// so that everything ends where it should; the cells above the error have to be written again.
-[[nodiscard]] bool transforma_con_formato(EstadoTabla& e, int col, const CambioCelda& cambia);
+/// What computes the cells of a column, row after row, from others.
+struct ComputoColumna {
+    /// As AlmacenCeldas::transforma asks it.
+    CambioCelda texto;
+    /// If there is one: the same result as a number of at most 9 decimals, for the rows where it is one.
+    std::function<std::optional<Decimal>(int fila)> numero;
+};
+
+/// Rewrites the data cells of a column and applies its format to what they become, in one pass. False where an error
+/// came up: who asked does one after the other then, so that everything ends where it should; the cells above the
+/// error have to be written again.
+[[nodiscard]] bool computa_con_formato(EstadoTabla& e, int col, const ComputoColumna& computo);
 /// Switches the row-number column off: locked, visible, working and grid width 0.
 void Tablero_Fila_0_Off(EstadoTabla& e);
 /// Takes dragged widths of visible, unlocked columns back into the working formats, Int(width / 120);

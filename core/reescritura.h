@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Reescritura: cells of one chunk written row after row, from above down. The new rows are put together
 // apart and take the place of the old ones at once, so that each is copied once however many there are.
-// Only ordinary rows and texts go this way; what is told "no" is written cell by cell (core/almacen_celdas.cpp).
+// Only ordinary rows and texts go this way; others are written by themselves (core/almacen_celdas.cpp).
 #pragma once
 
 #include "core/trozo.h"
@@ -15,14 +15,21 @@
 
 namespace Qlt4_Tabla {
 
+/// What became of a row.
+enum class Escrita {
+    No, ///< not in this way: nothing is done
+    Igual, ///< it has these texts already
+    Otra,
+};
+
 class Reescritura {
 public:
     /// Goes to a chunk, which nobody else writes before `acaba`. What was not put in place is forgotten.
     void empieza(Trozo& t);
 
-    /// Other texts for the cells of row `i` from column `col` > 0 on; it is below the rows given before. False,
-    /// and nothing is done: texts that stand apart, a chunk without packed rows or one that would grow too much.
-    [[nodiscard]] bool pon(int i, int col, std::span<const std::string_view> textos);
+    /// Other texts for the cells of row `i` from column `col` > 0 on; it is below the rows given before. Not in this
+    /// way go texts that stand apart, and a chunk without packed rows or one that would grow too much.
+    [[nodiscard]] Escrita pon(int i, int col, std::span<const std::string_view> textos);
 
     /// Puts the rows in their place. Without memory: std::bad_alloc, the chunk is unchanged.
     void acaba();

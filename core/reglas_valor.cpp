@@ -65,6 +65,8 @@ ResultadoFiltro tecla_menos(std::string_view signos, std::string_view texto) {
 } // namespace
 
 double Valor_Numerico(std::string_view texto) {
+    const std::optional<Decimal> numero = decimal_de_texto(texto);
+    if (numero && numero->decimales <= maximos_decimales) return real_de_decimal(*numero);
     if (texto.find(',') == std::string_view::npos) return Val(texto);
     return Val(Coma_a_Punto(texto));
 }

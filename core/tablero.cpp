@@ -125,18 +125,29 @@ void Tablero::pon_fila(int fila, int col, std::span<const std::string_view> text
     if (cambia) avisa({fila, col, fila, col2});
 }
 
-void Tablero::transforma_columna(int col, int desde, int hasta, const CambioCelda& cambia) {
-    if (desde > hasta) return;
-    comprueba({desde, col, hasta, col});
-    anota_escritas(desde, hasta, col, col);
+// Cells of the block are written by `escribe`, which may end in an error half-way; one notice.
+template <class Escribe>
+void Tablero::escribe_bloque(const Bloque& b, const Escribe& escribe) {
+    if (b.fila1 > b.fila2) return;
+    comprueba(b);
+    anota_escritas(b.fila1, b.fila2, b.col1, b.col2);
     FilasCambiadas cambiadas;
     try {
-        cambiadas = con_memoria([&] { return almacen_.transforma(col, desde, hasta, cambia); });
+        cambiadas = con_memoria(escribe);
     } catch (...) {
-        avisa({desde, col, hasta, col});
+        avisa(b);
         throw;
     }
-    if (cambiadas.hay()) avisa({cambiadas.primera, col, cambiadas.ultima, col});
+    if (cambiadas.hay()) avisa({cambiadas.primera, b.col1, cambiadas.ultima, b.col2});
+}
+
+void Tablero::pon_filas(const Bloque& b, const TextosDeFila& da) {
+    if (b.col1 < 1) fuera();
+    escribe_bloque(b, [&] { return almacen_.pon_filas(b.fila1, b.fila2, b.col1, da); });
+}
+
+void Tablero::transforma_columna(int col, int desde, int hasta, const CambioCelda& cambia) {
+    escribe_bloque({desde, col, hasta, col}, [&] { return almacen_.transforma(col, desde, hasta, cambia); });
 }
 
 // A cell that changes is looked at once more the next time: only what was seen to stay as it is has its form.

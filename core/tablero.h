@@ -85,6 +85,8 @@ public:
     void TextMatrix(int fila, int col, std::string_view texto);
     /// Writes neighbouring cells of one row from `col` on, with one notice.
     void pon_fila(int fila, int col, std::span<const std::string_view> textos);
+    /// The same for a block, from column 1 on, in one pass: `da(fila)` gives as many texts as it has columns.
+    void pon_filas(const Bloque& bloque, const TextosDeFila& da);
     /// Rewrites a column's data cells in one pass and with one notice; see AlmacenCeldas::transforma.
     void transforma_columna(int col, int desde, int hasta, const CambioCelda& cambia);
 
@@ -234,6 +236,8 @@ private:
     void ajusta();
     void avisa_cursor();
     void avisa_parte();
+    template <class Escribe>
+    void escribe_bloque(const Bloque& bloque, const Escribe& escribe);
     void avisa(const Bloque& bloque);
     void anota_escritas(int fila1, int fila2, int col1, int col2);
     template <class Cambio>

@@ -94,8 +94,21 @@ private:
 
     void fila(std::int32_t columnas) {
         matriz(ParteTb0::DimensionesFila, columnas);
-        for (col_ = 0; col_ < columnas; ++col_) texto(ParteTb0::Celda);
+        for (col_ = pasa_textos(columnas); col_ < columnas; ++col_) texto(ParteTb0::Celda);
         col_ = -1;
+    }
+
+    /// Passes so many texts, or those before the first one that is not whole; how many.
+    std::int32_t pasa_textos(std::int32_t cuantos) {
+        std::size_t pos = pos_;
+        std::int32_t i = 0;
+        for (; i < cuantos && bytes_.size() - pos >= tb0::BYTES_LONGITUD; ++i) {
+            const std::size_t fin = pos + tb0::BYTES_LONGITUD + lee16(bytes_, pos);
+            if (fin > bytes_.size()) break;
+            pos = fin;
+        }
+        pos_ = pos;
+        return i;
     }
 
     T_FormatoColumna formato() {

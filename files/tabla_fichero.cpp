@@ -58,10 +58,11 @@ void pon_celdas(Tablero& t, const Leido& leido, Avance avance) {
     t.pon_fila(0, 0, filas.siguiente());
     Numera_Filas(t);
     if (leido.registro.columnas == 1) return;
-    for (int fila = 1; fila < leido.registro.filas; ++fila) {
-        t.pon_fila(fila, 1, filas.siguiente().subspan(1));
-        avance.hasta(fila);
-    }
+    t.pon_filas({1, 1, leido.registro.filas - 1, leido.registro.columnas - 1}, [&](int fila) {
+        avance.hasta(fila - 1);
+        return filas.siguiente().subspan(1);
+    });
+    avance.hasta(leido.registro.filas - 1);
 }
 
 class Redibujo {

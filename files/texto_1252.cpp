@@ -27,8 +27,7 @@ bool es_ascii(std::string_view texto) {
     return (suma & ALTOS) == 0;
 }
 
-std::size_t a_1252(std::string_view texto, char* destino) {
-    if (copia_ascii(destino, texto.data(), texto.size())) return texto.size();
+std::size_t a_1252_letra_a_letra(std::string_view texto, char* destino) {
     char* p = destino;
     for (std::size_t pos = 0; pos < texto.size();) {
         const utf8::Caracter c = utf8::decodifica(texto, pos);

@@ -39,7 +39,12 @@ inline bool copia_ascii(char* destino, const char* origen, std::size_t n) {
 
 /// Writes the text in the code page from `destino` on, where there is room for texto.size() bytes; the
 /// bytes written. "?" stands for each character outside the code page and each byte that is no UTF-8.
-std::size_t a_1252(std::string_view texto, char* destino);
+std::size_t a_1252_letra_a_letra(std::string_view texto, char* destino);
+inline std::size_t a_1252(std::string_view texto, char* destino) {
+    return copia_ascii(destino, texto.data(), texto.size()) ? texto.size()
+                                                            : a_1252_letra_a_letra(texto, destino);
+}
+
 [[nodiscard]] std::string a_1252(std::string_view texto);
 
 /// Appends the bytes as UTF-8; every byte is a character.

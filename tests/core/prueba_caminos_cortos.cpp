@@ -96,6 +96,16 @@ private:
     std::mt19937 azar_;
 };
 
+TEST(CaminosCortos, ATextIsTheNumberThatTheLongWayReads) {
+    Azar azar(7);
+    for (int i = 0; i < 1'000'000; ++i) {
+        const std::string t = azar.numero(azar.una_de(2) ? 17 : 5, 14);
+        const double largo = Val(Coma_a_Punto(t));
+        ASSERT_EQ(Valor_Numerico(t), largo) << t;
+        ASSERT_EQ(std::signbit(Valor_Numerico(t)), std::signbit(largo)) << t;
+    }
+}
+
 TEST(CaminosCortos, ATextIsFormattedAsItsNumberIs) {
     Azar azar(1);
     std::string hecho;
