@@ -20,7 +20,7 @@ int main(int argc, char** argv) {
     Ui::Ventana ui;
     ui.setupUi(&ventana);
     Tabla0& t = ui.tabla->tabla();
-    if (t.Rows() != 6 || t.Cols() != 4 || t.TextMatrix(0, 3) != "Cota      ") {
+    if (t.Rows() != 6 || t.Cols() != 4 || t.TextMatrix(0, 3) != "      Cota") {
         ejemplos::di(stderr, forma::NO_TRAE);
         return 1;
     }
