@@ -58,6 +58,7 @@ void elige_filas(Qlt4_Tabla::Tabla0& t, int desde, int hasta);
 void pon_tamano(Qlt4_Tabla::Tabla0& t);
 std::string por_nombre(Qlt4_Tabla::Tabla0& t);
 int error_de_columna(Qlt4_Tabla::Tabla0& t);
+std::vector<std::string> faltas_al_leer(const std::string& fichero);
 void mide_en_otro_hilo(Qlt4_Tabla::TablaWidget& widget);
 
 } // namespace guia

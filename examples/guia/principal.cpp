@@ -85,9 +85,12 @@ void comprueba_trato(TablaWidget& widget) {
 void comprueba_ficheros(TablaWidget& widget) {
     Tabla0& t = widget.tabla();
     const QTemporaryDir carpeta;
-    ida_y_vuelta(t, QDir(carpeta.path()).filePath(QStringLiteral("perfil.tb0")).toStdString());
+    const std::string fichero = QDir(carpeta.path()).filePath(QStringLiteral("perfil.tb0")).toStdString();
+    ida_y_vuelta(t, fichero);
     exige(t.TextMatrix(5, TERRENO), "99,900", "file");
     exige(t.TextMatrix(4, MATERIAL), textos::HORMIGON, "lists after a file");
+    exige(static_cast<int>(faltas_al_leer(fichero).size()), 0, "a file that is there");
+    exige(static_cast<int>(faltas_al_leer("no-existe.tb0").size()), 1, "a file that is not");
     widget.pon_fichero_ajustes(QDir(carpeta.path()).filePath(QStringLiteral("ajustes.ini")));
     guarda_forma(t);
     vuelve_al_formato_inicial(t);

@@ -8,6 +8,7 @@
 #include <QThread>
 
 #include <memory>
+#include <string_view>
 
 namespace guia {
 
@@ -55,6 +56,38 @@ int error_de_columna(Tabla0& t) {
     return 0;
 }
 // end: errores
+
+// begin: mensajes
+class Avisos final : public Mensajes {
+public:
+    Mensajes* de_la_tabla = nullptr;
+    std::vector<std::string> vistos;
+
+    Respuesta mensaje(std::string_view texto, EstiloMensaje estilo, std::string_view titulo) override {
+        if (estilo == EstiloMensaje::CriticoSiNo) return de_la_tabla->mensaje(texto, estilo, titulo);
+        vistos.emplace_back(texto);
+        return Respuesta::Aceptar;
+    }
+
+    void pitido() override { de_la_tabla->pitido(); }
+
+    void puntero(Puntero forma) override { de_la_tabla->puntero(forma); }
+
+    void avance(std::string_view que, int por_ciento) override { de_la_tabla->avance(que, por_ciento); }
+};
+
+std::vector<std::string> faltas_al_leer(const std::string& fichero) {
+    Avisos avisos; // outlives the widget
+    TablaWidget widget([&avisos](const Plataforma& p) {
+        avisos.de_la_tabla = &p.mensajes;
+        return Plataforma{p.vista, p.marco, p.casilla, p.lista, avisos, p.separador, p.pasos, p.ajustes,
+            p.ficheros, p.dialogo_fichero, p.portapapeles, p.hoja_calculo, p.dialogo_color,
+            p.dialogo_columnas};
+    });
+    widget.tabla().Tablero_Leer(fichero);
+    return avisos.vistos; // none: it was read
+}
+// end: mensajes
 
 // begin: despacho
 std::string por_nombre(Tabla0& t) {
