@@ -12,6 +12,7 @@ file(CHMOD ${TABLA_RUNTIME} PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
 # tabla_prueba(<target> <links>...): what every test program has; missing targets are left out.
 function(tabla_prueba objetivo)
   tabla_comun(${objetivo})
+  set_target_properties(${objetivo} PROPERTIES UNITY_BUILD OFF) # but see tabla_juntas
   if(NOT MSVC)
     target_compile_options(${objetivo} PRIVATE -O0 -g1) # compiled more often than run; what is tested is optimised
   endif()

@@ -15,6 +15,9 @@
 
 namespace Qlt4_Tabla {
 
+/// One step of the horizontal scroll bar.
+inline constexpr int PASO_HORIZONTAL_PX = 24;
+
 /// Height of a row in pixels: its font's and some air.
 [[nodiscard]] inline int alto_de_fila(const QWidget& w) {
     constexpr int AIRE_PX = 7;

@@ -45,7 +45,7 @@ bool PlumaCeldas::junta(const QRect& celda, const QRect& sitio, Qt::Alignment la
     if (!cabe) return false;
     for (const TextoPreparado::Glifo& g : t.glifos) {
         glifos_.push_back(g.numero);
-        sitios_.push_back(origen + QPointF(g.x, t.base));
+        sitios_.push_back(origen + QPointF(static_cast<qreal>(g.x), t.base));
     }
     return true;
 }

@@ -24,8 +24,6 @@ namespace Qlt4_Tabla {
 
 namespace {
 
-constexpr int PASO_HORIZONTAL_PX = 24;
-
 Qt::Alignment alineacion(const Tablero& t, int col) {
     switch (t.ColAlignment(col)) {
     case AlineacionCelda::Centro: return Qt::AlignHCenter | Qt::AlignVCenter;

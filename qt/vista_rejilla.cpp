@@ -24,7 +24,6 @@ namespace {
 constexpr int TOLERANCIA_BORDE_PX = 4;
 constexpr int MAX_PEDIDOS = 64; // beyond this many pieces one whole repaint is cheaper
 constexpr int MUESCA = 120; // wheel angle of one notch
-constexpr int PASO_HORIZONTAL_PX = 24;
 
 Boton boton_de(Qt::MouseButton b) {
     if (b == Qt::RightButton) return Boton::Derecho;
