@@ -164,6 +164,7 @@ void mn_pegar_al_final(EstadoTabla& e, const std::function<void()>& anade_filas)
     e.tablero.Col(0);
     e.tablero.Row(e.tablero.Rows() - 1);
     Pegar_Portapapeles(e, false);
+    lleva_celda_a_datos(e.tablero); // also where nothing was pasted
 }
 
 } // namespace Qlt4_Tabla

@@ -13,9 +13,8 @@ file(CHMOD ${TABLA_RUNTIME} PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
 function(tabla_prueba objetivo)
   tabla_comun(${objetivo})
   set_target_properties(${objetivo} PROPERTIES UNITY_BUILD OFF) # but see tabla_juntas
-  if(NOT MSVC)
-    target_compile_options(${objetivo} PRIVATE -O0 -g1) # compiled more often than run; what is tested is optimised
-  endif()
+  # Compiled more often than run; what is tested is optimised.
+  target_compile_options(${objetivo} PRIVATE $<$<CONFIG:RelWithDebInfo>:-O0$<SEMICOLON>-g1>)
   tabla_ruta_incluye(ruta ${TABLA_TESTS} tests)
   target_include_directories(${objetivo} PRIVATE ${ruta})
   target_compile_definitions(${objetivo} PRIVATE "TABLA_DIR_PRUEBAS=\"${TABLA_TESTS}\"")

@@ -180,7 +180,8 @@ void Mandos::raton_arriba(int x, int y, Boton boton) {
     protege(TABLERO, [&] {
         const Celda suelta = celda_en(e_.tablero, x, y);
         if (suelta == pulsada_) navegacion_.clic(suelta);
-        menus_.abre_de_columna();
+        // Beside the cells the mouse selected nothing; what is selected came from keys or from the host.
+        if (pulsada_.fila >= 0 && pulsada_.col >= 0) menus_.abre_de_columna();
     });
 }
 

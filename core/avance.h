@@ -19,12 +19,18 @@ public:
     /// A command of fewer steps is over before anyone could read how far it is: nothing is told.
     static constexpr std::int64_t MINIMO = 10'000;
 
+    /// Is a command over so many steps worth an hourglass?
+    [[nodiscard]] static bool hace_esperar(std::int64_t total) { return total >= MINIMO; }
+
     /// Tells nobody.
     Avance() = default;
 
     /// `que` is what the user reads, such as "Pegando", and outlives this; `total` steps cost about the same.
     Avance(Mensajes& mensajes, std::string_view que, std::int64_t total)
-        : mensajes_(&mensajes), que_(que), total_(total), siguiente_(total < MINIMO ? NUNCA : pasos_de(1)) {}
+        : mensajes_(&mensajes),
+          que_(que),
+          total_(total),
+          siguiente_(hace_esperar(total) ? pasos_de(1) : NUNCA) {}
 
     /// So many steps are done: a notice for each per cent that is reached, one for several at once. Cheap
     /// enough for every row.

@@ -5,9 +5,11 @@
 #include "base/decimal.h"
 #include "base/error.h"
 #include "base/numeros.h"
+#include "core/avance.h"
 #include "core/formatos.h"
 #include "core/redibujo_suspendido.h"
 #include "core/reglas_valor.h"
+#include "core/reloj_de_arena.h"
 #include "core/textos.h"
 
 #include <initializer_list>
@@ -36,30 +38,15 @@ void exige_en_tablero(const Tablero& t, std::initializer_list<std::int32_t> colu
         if (col < 0 || col >= t.Cols()) lanza(NumError::Subindice);
 }
 
-// An invisible column stays so.
-void esconde(EstadoTabla& e, int col) {
-    if (formato(e, col).Invisible) e.tablero.ColWidth(col, 0);
-}
-
-// It stays so also when its format ends in an error.
-void aplica_formato(EstadoTabla& e, int col) {
-    try {
-        Tablero_Formato_Columna(e, col);
-    } catch (...) {
-        esconde(e, col);
-        throw;
-    }
-    esconde(e, col);
-}
-
 // Writes the results into the data rows and applies the column's format. Results that come from other columns are
 // written in their last form at once.
 void escribe_columna(EstadoTabla& e, int col, bool de_otras, const ComputoColumna& computo) {
     const int ultima = e.tablero.Rows() - 1;
+    const RelojDeArena reloj(e, Avance::hace_esperar(ultima));
     if (ultima >= 1) refresca_ComaDecimal(e);
-    if (de_otras && computa_con_formato(e, col, computo)) return esconde(e, col);
+    if (de_otras && computa_con_formato(e, col, computo)) return mantiene_oculta(e, col);
     e.tablero.transforma_columna(col, 1, ultima, computo.texto);
-    aplica_formato(e, col);
+    da_formato_a_columna(e, col);
 }
 
 enum class Operacion { Suma, Resta };

@@ -46,11 +46,27 @@ void escribe_labNumeroFilas(EstadoTabla& e) {
     pon_etiqueta(e, etiqueta, texto_de_estado(e), etiqueta.visible);
 }
 
+void escribe_cuenta_filas(EstadoTabla& e, bool visible) {
+    std::string texto = e.nombres.subtitulo();
+    texto += textos::numero_de_filas;
+    texto += Str(e.tablero.Rows() - 1);
+    pon_etiqueta(e, e.etiquetas.labNumeroFilas, texto, visible);
+}
+
+void recuenta_filas(EstadoTabla& e) {
+    if (e.etiquetas.labNumeroFilas.visible) escribe_cuenta_filas(e, true);
+}
+
 void muestra_mensaje(EstadoTabla& e, std::string_view texto) {
     pon_etiqueta(e, e.etiquetas.labMensaje, texto, true);
 }
 
 void termina_mensaje(EstadoTabla& e) { pon_etiqueta(e, e.etiquetas.labMensaje, texto_de_estado(e), false); }
+
+void olvida_clic(EstadoTabla& e) {
+    e.ultimaFilaRaton = -1;
+    e.ultimaColRaton = -1;
+}
 
 void trata_cambio_seleccion(EstadoTabla& e) {
     termina_mensaje(e);

@@ -61,11 +61,17 @@ void refresca_ComaDecimal(EstadoTabla& e);
 void pon_etiqueta(EstadoTabla& e, Etiqueta& etiqueta, std::string_view texto, bool visible);
 /// Row-count label of start-up and of the `Rows` let: "Nº de ", subtitle, " =", Str(Rows - 1).
 void escribe_labNumeroFilas(EstadoTabla& e);
+/// Row-count label as applying the formats writes it: subtitle, ": Nº de filas =", Str(Rows - 1).
+void escribe_cuenta_filas(EstadoTabla& e, bool visible);
+/// After a change of the rows: the row-count label, where it is seen.
+void recuenta_filas(EstadoTabla& e);
 /// Shows `texto` in labMensaje until the next editor opening, commit, command or selection change.
 void muestra_mensaje(EstadoTabla& e, std::string_view texto);
 /// The message has ended: labMensaje is hidden and its caption is the status text "Nº de ", subtitle,
 /// " =", Str(Rows - 1).
 void termina_mensaje(EstadoTabla& e);
+/// The next click on a list cell is a first one.
+void olvida_clic(EstadoTabla& e);
 /// Selection-change handling: refreshes the status text, then raises `SelChange`.
 void trata_cambio_seleccion(EstadoTabla& e);
 

@@ -6,7 +6,9 @@
 #include "base/aritmetica.h"
 #include "base/error.h"
 #include "base/numeros.h"
+#include "core/avance.h"
 #include "core/reglas_valor.h"
+#include "core/reloj_de_arena.h"
 #include "core/sin_errores.h"
 #include "core/textos.h"
 
@@ -45,10 +47,7 @@ void prepara_columna_0(EstadoTabla& e) {
     f.Formato = static_cast<std::int16_t>(T_formato::Alfanm);
     e.tablero.ColWidth(0, f.Invisible ? 0 : ancho_en_twips(f));
 
-    std::string texto = e.nombres.subtitulo();
-    texto += textos::numero_de_filas;
-    texto += Str(e.tablero.Rows() - 1);
-    pon_etiqueta(e, e.etiquetas.labNumeroFilas, texto, f.Bloqueada);
+    escribe_cuenta_filas(e, f.Bloqueada);
     f.Decimales = 0;
 }
 
@@ -65,9 +64,8 @@ void alinea_columna(Tablero& t, int col, std::int16_t alineacion) {
 }
 
 void establece_columna(EstadoTabla& e, int col) {
-    Tablero_Formato_Columna(e, col); // error 9 from column 26 on
+    da_formato_a_columna(e, col); // error 9 from column 26 on
     const T_FormatoColumna& f = formato(e, col);
-    if (f.Invisible) e.tablero.ColWidth(col, 0);
     if (col > 0) e.tablero.TextMatrix(0, col, f.Nombre);
     e.tablero.color_fondo(Bloque{0, col, 0, col}, f.Bloqueada ? COLOR_CABECERA_BLOQUEADA : COLOR_CARA_BOTON);
     alinea_columna(e.tablero, col, f.Alineacion);
@@ -177,6 +175,7 @@ void Tablero_Formato_por_defecto(EstadoTabla& e) { e.Formatos = e.Formatos_por_d
 
 // Redrawing is switched by hand: after an error it has to stay off.
 void Tablero_establece_Formato(EstadoTabla& e) {
+    const RelojDeArena reloj(e, Avance::hace_esperar(e.tablero.Rows() - 1));
     e.tablero.Redraw(false);
     prepara_columna_0(e);
     const int columnas = e.tablero.Cols();
@@ -186,11 +185,32 @@ void Tablero_establece_Formato(EstadoTabla& e) {
 
 void Tablero_Formato_Columna(EstadoTabla& e, int col) {
     e.tablero.ColWidth(col, ancho_en_twips(formato(e, col)));
-    if (const auto forma = forma_de(e, col)) e.tablero.da_forma(col, forma->nombre, forma->da);
+    const auto forma = forma_de(e, col);
+    if (!forma) return;
+    Avance avance(e.plataforma.mensajes, textos::dando_formato, e.tablero.Rows() - 1);
+    e.tablero.da_forma(col, forma->nombre, [&](int fila, std::string_view texto, std::string& nuevo) {
+        avance.hasta(fila);
+        return forma->da(fila, texto, nuevo);
+    });
+}
+
+void da_formato_a_columna(EstadoTabla& e, int col) {
+    try {
+        Tablero_Formato_Columna(e, col);
+    } catch (...) {
+        if (col < MAX_COLUMNAS) mantiene_oculta(e, col);
+        throw;
+    }
+    mantiene_oculta(e, col);
+}
+
+void mantiene_oculta(EstadoTabla& e, int col) {
+    if (formato(e, col).Invisible) e.tablero.ColWidth(col, 0);
 }
 
 bool computa_con_formato(EstadoTabla& e, int col, const ComputoColumna& computo) {
     bool hecho = false;
+    Avance avance(e.plataforma.mensajes, textos::calculando, e.tablero.Rows() - 1);
     sin_errores([&] {
         const T_FormatoColumna& f = formato(e, col);
         const int ancho = ancho_en_twips(f);
@@ -199,6 +219,7 @@ bool computa_con_formato(EstadoTabla& e, int col, const ComputoColumna& computo)
         std::string sin_forma;
         e.tablero.transforma_columna(
             col, 1, e.tablero.Rows() - 1, [&](int fila, std::string_view texto, std::string& nuevo) {
+                avance.hasta(fila);
                 const auto numero = decimales > 0 ? computo.numero(fila) : std::nullopt;
                 if (numero) {
                     muestra_decimal(*numero, decimales, nuevo);

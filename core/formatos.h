@@ -30,6 +30,10 @@ void Tablero_Formato_por_defecto(EstadoTabla& e);
 void Tablero_establece_Formato(EstadoTabla& e);
 /// One column's width and value format.
 void Tablero_Formato_Columna(EstadoTabla& e, int col);
+/// The same; an invisible column keeps the width 0, also when its format ends in an error.
+void da_formato_a_columna(EstadoTabla& e, int col);
+/// Width 0 where the column is invisible.
+void mantiene_oculta(EstadoTabla& e, int col);
 /// What computes the cells of a column, row after row, from others.
 struct ComputoColumna {
     /// As AlmacenCeldas::transforma asks it.

@@ -9,12 +9,13 @@ namespace Qlt4_Tabla {
 
 class RelojDeArena {
 public:
-    explicit RelojDeArena(EstadoTabla& e) : e_(e) {
-        if (e_.relojes++ == 0) e_.plataforma.mensajes.puntero(Puntero::RelojDeArena);
+    /// `hace_falta`: false for a command that is over at once on a table of this size.
+    explicit RelojDeArena(EstadoTabla& e, bool hace_falta = true) : e_(e), puesto_(hace_falta) {
+        if (puesto_ && e_.relojes++ == 0) e_.plataforma.mensajes.puntero(Puntero::RelojDeArena);
     }
 
     ~RelojDeArena() {
-        if (--e_.relojes == 0) e_.plataforma.mensajes.puntero(Puntero::Normal);
+        if (puesto_ && --e_.relojes == 0) e_.plataforma.mensajes.puntero(Puntero::Normal);
     }
 
     RelojDeArena(const RelojDeArena&) = delete;
@@ -22,6 +23,7 @@ public:
 
 private:
     EstadoTabla& e_;
+    bool puesto_;
 };
 
 } // namespace Qlt4_Tabla

@@ -109,7 +109,10 @@ void da_formato_inicial(EstadoTabla& e, int col) {
     pon_si_cero(f.Longitud, LONGITUD_NUEVA);
 }
 
-void Clear(EstadoTabla& e) { e.tablero.Rows(1); }
+void Clear(EstadoTabla& e) {
+    e.tablero.Rows(1);
+    recuenta_filas(e);
+}
 
 void MergeCells(EstadoTabla& e, std::int16_t modo) {
     if (modo >= 0 && modo <= 3) e.tablero.MergeCells(modo);

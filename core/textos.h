@@ -9,6 +9,10 @@
 
 namespace Qlt4_Tabla::textos {
 
+// What a long command is doing, in the strip below the table.
+inline constexpr std::string_view calculando = "Calculando";
+inline constexpr std::string_view dando_formato = "Dando formato";
+
 /// Design captions, in the order of `Opcion`. "&" marks the accelerator, "-" a separator line.
 inline constexpr std::array<std::string_view, 29> titulos_menu{
     "&Deshacer",

@@ -5,9 +5,11 @@
 #include "base/aritmetica.h"
 #include "base/numeros.h"
 #include "base/utf8.h"
+#include "core/geometria.h"
 #include "core/incrementa_texto.h"
 #include "core/numeracion.h"
 #include "core/sin_redibujar.h"
+#include "core/superficie.h"
 
 #include <algorithm>
 #include <string>
@@ -40,6 +42,8 @@ void vacia(Tablero& t, const Bloque& b, int col) {
 void termina_cambio_de_filas(EstadoTabla& e) {
     e.Modificado = 1;
     Numera_Filas(e.tablero);
+    recuenta_filas(e);
+    olvida_clic(e); // its place holds another row now
     trata_cambio_seleccion(e);
 }
 
@@ -53,6 +57,7 @@ void crea_una_fila(EstadoTabla& e) {
     t.Rows(filas);
     e.Modificado = 1;
     t.TextMatrix(numero, 0, numero_a_texto(numero));
+    recuenta_filas(e);
     Rellena_Fila(e, filas - 1);
 }
 
@@ -75,6 +80,8 @@ void mn_añadir_filas(EstadoTabla& e) {
     t.Rows(filas);
     e.Modificado = 1;
     Numera_Filas(t);
+    recuenta_filas(e);
+    if (filas == 2) lleva_celda_a_datos(t); // what is typed next belongs to the first row
     t.TopRow(filas - 1);
     termina_mensaje(e);
 }
@@ -87,7 +94,9 @@ void mn_insertar_filas(EstadoTabla& e) {
     suma32(t.Rows(), n);
     e.revoca.Graba_Revoca();
     const SinRedibujar quieto(t);
+    const bool primera = t.Rows() == 1;
     t.inserta_filas(donde, n);
+    if (primera) lleva_celda_a_datos(t); // what is typed next belongs to the first row
     termina_cambio_de_filas(e);
 }
 
@@ -101,6 +110,7 @@ void mn_eliminar_filas(EstadoTabla& e) {
     if (b.fila2 >= desde) t.borra_filas(desde, b.fila2 - desde + 1);
     termina_cambio_de_filas(e);
     t.selecciona(t.Row(), t.Col(), t.Row(), t.Col());
+    muestra_celda(t, t.Row(), t.Col());
 }
 
 void mn_eliminar_vacias(EstadoTabla& e) {
@@ -112,6 +122,7 @@ void mn_eliminar_vacias(EstadoTabla& e) {
         if (fila_vacia(t, fila)) vacias.push_back(fila);
     t.borra_varias_filas(vacias);
     termina_cambio_de_filas(e);
+    muestra_celda(t, t.Row(), t.Col());
 }
 
 void mn_borrar_seleccion(EstadoTabla& e) {

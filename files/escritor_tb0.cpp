@@ -88,7 +88,8 @@ void pon_formato(Escritor& e, const T_FormatoColumna& f) {
 
 } // namespace
 
-Bytes escribe_tb0(const Tablero& tablero, std::string_view subtitulo, const T_FormatoColumna& formato25) {
+Bytes escribe_tb0(
+    const Tablero& tablero, std::string_view subtitulo, const T_FormatoColumna& formato25, Avance avance) {
     const int filas = tablero.Rows();
     const int columnas = tablero.Cols();
     if (filas < 1 || columnas < 1 || columnas > MAX_COLUMNAS) lanza(NumError::Subindice);
@@ -104,6 +105,7 @@ Bytes escribe_tb0(const Tablero& tablero, std::string_view subtitulo, const T_Fo
     for (int fila = 0; fila < filas; ++fila) {
         tablero.almacen().lee_fila(fila, 0, fila_entera);
         pon_fila(e, fila_entera);
+        avance.hasta(fila);
     }
     const T_FormatoColumna vacio;
     for (std::size_t i = 0; i < tb0::FORMATOS; ++i)

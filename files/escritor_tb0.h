@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/bytes.h"
+#include "core/avance.h"
 #include "core/formato_columna.h"
 #include "core/tablero.h"
 
@@ -12,7 +13,8 @@ namespace Qlt4_Tabla {
 
 /// The whole record: every cell of the grid, header and row numbers included, and the format of column 25.
 /// Error 9: more than 26 columns, no column or no row; error 5: a text of more than 65,535 bytes.
-[[nodiscard]] Bytes escribe_tb0(
-    const Tablero& tablero, std::string_view subtitulo, const T_FormatoColumna& formato25);
+/// `avance` counts the data rows.
+[[nodiscard]] Bytes escribe_tb0(const Tablero& tablero, std::string_view subtitulo,
+    const T_FormatoColumna& formato25, Avance avance = {});
 
 } // namespace Qlt4_Tabla

@@ -91,6 +91,7 @@ void pon_en_tabla(EstadoTabla& e, const Leido& leido) {
     const int col = std::min(1, t.Cols() - 1);
     t.selecciona(fila, col, fila, col);
     t.desplazamiento(0);
+    olvida_clic(e);
     e.Modificado = 0;
     termina_mensaje(e);
     Tablero_establece_Formato(e);
@@ -133,7 +134,9 @@ void lee_tabla_propia(EstadoTabla& e, std::string_view nombre, const std::functi
 
 void graba_tabla(EstadoTabla& e, std::string_view nombre) {
     const RelojDeArena reloj(e);
-    const Bytes bytes = escribe_tb0(e.tablero, e.nombres.subtitulo(), e.Formatos[tb0::FORMATO_GUARDADO]);
+    const Avance avance(e.plataforma.mensajes, textos::guardando, e.tablero.Rows() - 1);
+    const Bytes bytes =
+        escribe_tb0(e.tablero, e.nombres.subtitulo(), e.Formatos[tb0::FORMATO_GUARDADO], avance);
     e.plataforma.ficheros.escribe_al_inicio(nombre, bytes.vista());
     e.Modificado = 0;
 }

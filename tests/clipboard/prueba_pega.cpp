@@ -319,7 +319,7 @@ TEST_F(PegaAlFinal, el_primer_campo_es_el_numero_de_fila) {
 TEST_F(PegaAlFinal, la_fila_anadida_se_queda_cuando_no_se_pega) {
     al_final("");
     EXPECT_EQ(t().Rows(), 4);
-    EXPECT_EQ(seleccion(), (std::vector{3, 0, 3, 0}));
+    EXPECT_EQ(seleccion(), (std::vector{3, 1, 3, 1})); // where it can be typed into
     al_final("1|2|3|4|5/");
     EXPECT_EQ(p.mensajes.vistos.size(), 2U);
     EXPECT_EQ(t().Rows(), 5);

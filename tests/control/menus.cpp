@@ -225,6 +225,18 @@ TEST_F(PruebaMenus, la_seleccion_con_el_teclado_no_abre_nada) {
     EXPECT_THAT(abiertos(), IsEmpty());
 }
 
+TEST_F(PruebaMenus, un_clic_al_lado_de_las_celdas_no_abre_el_de_lo_elegido_con_el_teclado) {
+    m().tecla_abajo(teclas::ABAJO, teclas::MAYUSCULAS);
+    const int abajo = y(7) + 300; // below the last row
+    const int derecha = x(COLOR) + 1200; // right of the last column
+    for (const auto& [px, py] : {std::pair(x(TEXTO), abajo), std::pair(derecha, y(2))}) {
+        m().raton_abajo(px, py, Boton::Izquierdo, {});
+        m().raton_arriba(px, py, Boton::Izquierdo);
+    }
+    EXPECT_EQ(t().RowSel(), 2);
+    EXPECT_THAT(abiertos(), IsEmpty());
+}
+
 TEST_F(PruebaMenus, ratonOff_cierra_el_menu_de_copia_y_no_los_otros) {
     tabla.A_Edicion_mn_Ratón_Off();
     arrastra(1, REAL, 3, REAL);

@@ -415,6 +415,28 @@ TEST_F(Formatos_en_tablero, sin_valor_de_indice_0_una_celda_con_texto_es_el_erro
     }
 }
 
+TEST_F(Formatos_en_tablero, una_lista_escondida_lo_sigue_estando_tras_el_error_9) {
+    pon_formato(2, T_formato::ListaU).Longitud = 10;
+    f(2).Invisible = true;
+    escribe(2, {"x"});
+    EXPECT_EQ(error_al_establecer(), 9);
+    EXPECT_EQ(t().ColWidth(2), 0);
+}
+
+TEST_F(Formatos_en_tablero, con_muchas_filas_hay_reloj_y_se_dice_cuanto_va) {
+    pon_tamano(2, 10'001);
+    pon_formato(1, T_formato::Real__, 2);
+    for (int fila = 1; fila <= 10'000; ++fila) t().TextMatrix(fila, 1, "1");
+    p.recoge();
+    EXPECT_EQ(error_al_establecer(), 0);
+    const Registro dicho = p.recoge();
+    ASSERT_EQ(dicho.size(), 102U); // the hourglass, each per cent, the pointer
+    EXPECT_EQ(dicho.front(), "puntero 11");
+    EXPECT_EQ(dicho[1], "avance Dando formato 1");
+    EXPECT_EQ(dicho[100], "avance Dando formato 100");
+    EXPECT_EQ(dicho.back(), "puntero 0");
+}
+
 TEST_F(Formatos_en_tablero, una_lista_sin_valores_y_sin_textos_no_es_un_error) {
     pon_formato(2, T_formato::ListaU);
     EXPECT_EQ(error_al_establecer(), 0);

@@ -192,6 +192,54 @@ TEST_F(PruebaFilas, un_error_en_el_suceso_deja_el_dibujo_encendido) {
     EXPECT_TRUE(t().Redraw());
 }
 
+TEST_F(PruebaFilas, la_primera_fila_que_se_anade_o_inserta_se_puede_escribir) {
+    for (const auto& orden : {std::function<void()>([&] { mn_añadir_filas(e); }),
+             std::function<void()>([&] { mn_insertar_filas(e); })}) {
+        t().Rows(1);
+        EXPECT_EQ(t().Row(), 0);
+        orden();
+        EXPECT_EQ(t().Rows(), 2);
+        EXPECT_EQ(t().Row(), 1);
+    }
+}
+
+TEST_F(PruebaFilas, la_cuenta_de_filas_que_se_ve_sigue_a_cada_orden) {
+    e.nombres.Tablero_Pon_Nombre(2, true, "Puntos");
+    Tablero_Fila_0_Off(e);
+    Tablero_establece_Formato(e);
+    const std::string& cuenta = e.etiquetas.labNumeroFilas.texto;
+    EXPECT_EQ(cuenta, "Puntos: Nº de filas = 4");
+    va(4, 1);
+    crea_una_fila(e);
+    EXPECT_EQ(cuenta, "Puntos: Nº de filas = 5");
+    mn_añadir_filas(e);
+    EXPECT_EQ(cuenta, "Puntos: Nº de filas = 6");
+    mn_insertar_filas(e);
+    EXPECT_EQ(cuenta, "Puntos: Nº de filas = 7");
+    mn_eliminar_filas(e);
+    EXPECT_EQ(cuenta, "Puntos: Nº de filas = 6");
+    mn_eliminar_vacias(e);
+    EXPECT_EQ(cuenta, "Puntos: Nº de filas = 0");
+}
+
+TEST_F(PruebaFilas, la_celda_actual_se_ve_despues_de_borrar_filas) {
+    t().Rows(201);
+    t().selecciona(2, 1, 180, 1);
+    t().TopRow(170);
+    mn_eliminar_filas(e);
+    EXPECT_EQ(t().Row(), 2);
+    EXPECT_EQ(t().TopRow(), 2);
+}
+
+TEST_F(PruebaFilas, la_fila_que_sube_no_cuenta_como_la_del_clic_anterior) {
+    e.ultimaFilaRaton = 2;
+    e.ultimaColRaton = 4;
+    va(2, 4);
+    mn_eliminar_filas(e);
+    EXPECT_EQ(e.ultimaFilaRaton, -1);
+    EXPECT_EQ(e.ultimaColRaton, -1);
+}
+
 } // namespace
 
 } // namespace Qlt4_Tabla

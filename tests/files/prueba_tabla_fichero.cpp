@@ -55,6 +55,18 @@ TEST_F(PruebaFichero, guardar_muestra_el_reloj_y_nada_mas) {
     EXPECT_EQ(m.e.Modificado, 0);
 }
 
+TEST_F(PruebaFichero, de_una_tabla_larga_se_dice_cuanto_va) {
+    m.pon_tamano(3, 10'001);
+    EXPECT_EQ(m.graba("t"), 0);
+    EXPECT_EQ(m.p.registro.size(), 102U); // the hourglass, each per cent, the pointer
+    EXPECT_EQ(m.p.registro[50], "avance Guardando la tabla 50");
+    n.fichero("t") = m.fichero("t");
+    EXPECT_EQ(n.lee("t"), 0);
+    EXPECT_EQ(n.p.registro.front(), "puntero 11");
+    EXPECT_THAT(n.p.registro, testing::Contains("avance Leyendo la tabla 50"));
+    EXPECT_EQ(n.p.registro.back(), "puntero 0");
+}
+
 TEST_F(PruebaFichero, leer_lleva_a_la_primera_celda_sin_suceso) {
     otra();
     n.pon_tamano(8, 9);
