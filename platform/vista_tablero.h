@@ -30,7 +30,7 @@ public:
     virtual void alto_cambiado(int fila) = 0;
     /// The merge mode or a column's merge switch changed.
     virtual void fusion_cambiada() = 0;
-    /// Anything may have changed: the joined notice of changes made while redrawing was off.
+    /// Anything may have changed: the joined notice of changes of several kinds made while redrawing was off.
     virtual void todo_cambiado() = 0;
 };
 

@@ -68,12 +68,12 @@ void PuertosQt::celdas_cambiadas(int fila1, int col1, int fila2, int col2) {
 }
 
 void PuertosQt::filas_insertadas(int fila, int n) {
-    if (vista_) vista_->filas_cambiadas(fila);
+    if (vista_) vista_->filas_movidas(fila, n);
     if (vista_) emit widget_.filas_insertadas(fila, n);
 }
 
 void PuertosQt::filas_borradas(int fila, int n) {
-    if (vista_) vista_->filas_cambiadas(fila);
+    if (vista_) vista_->filas_movidas(fila, -n);
     if (vista_) emit widget_.filas_borradas(fila, n);
 }
 

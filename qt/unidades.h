@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include <cmath>
+#include <cstdint>
 
 namespace Qlt4_Tabla {
 
@@ -23,7 +24,14 @@ public:
 
     [[nodiscard]] int twips_y(int px) const { return a_twips(px, dpi_y_); }
 
+    /// Are these twips whole pixels?
+    [[nodiscard]] bool enteros_x(int twips) const { return enteros(twips, dpi_x_); }
+
+    [[nodiscard]] bool enteros_y(int twips) const { return enteros(twips, dpi_y_); }
+
 private:
+    static bool enteros(int twips, int dpi) { return std::int64_t{twips} * dpi % TWIPS_POR_PULGADA == 0; }
+
     // Halves go up on both sides of 0, so that what is scrolled keeps its pixels.
     static int a_px(int twips, int dpi) {
         return static_cast<int>(std::floor(static_cast<double>(twips) * dpi / TWIPS_POR_PULGADA + 0.5));

@@ -15,7 +15,7 @@
 #include <QScrollBar>
 
 #include <algorithm>
-#include <cstdlib>
+#include <utility>
 
 namespace Qlt4_Tabla {
 
@@ -23,6 +23,7 @@ namespace {
 
 constexpr int TOLERANCIA_BORDE_PX = 4;
 constexpr int MAX_PEDIDOS = 64; // beyond this many pieces one whole repaint is cheaper
+constexpr int PEDIDOS_DE_MOVER = 16; // what moving pixels counts as
 constexpr int MUESCA = 120; // wheel angle of one notch
 
 Boton boton_de(Qt::MouseButton b) {
@@ -81,20 +82,61 @@ QRect VistaRejilla::rect_celda(int fila, int col) const {
     return en_px(rectangulo_celda(tablero(), fila, col), unidades());
 }
 
+// Whether a row looks the same wherever it stands, so that its pixels can be moved.
+bool VistaRejilla::filas_iguales() const {
+    const Tablero& t = tablero();
+    return !t.hay_altos() && t.MergeCells() == 0 && unidades().enteros_y(t.alto_normal());
+}
+
+// Moves the picture to where the grid is now. Done before anything else is asked to be repainted: places are
+// those of the grid, and what waits moves with the picture.
+void VistaRejilla::sigue_vista() {
+    const Tablero& t = tablero();
+    const Unidades u = unidades();
+    const int filas = std::exchange(dibujado_.fila_superior, t.TopRow()) - t.TopRow();
+    const int twips = std::exchange(dibujado_.desplazamiento, t.desplazamiento()) - t.desplazamiento();
+    if (filas == 0 && twips == 0) return;
+    if (t.Rows() == 0 || t.Cols() == 0 || !filas_iguales() || !u.enteros_x(twips)) return repinta_todo();
+    const QRect v = viewport()->rect();
+    const int y0 = u.px_y(t.RowHeight(0));
+    const int x0 = u.px_x(t.ancho_visible(0));
+    const int alto = u.px_y(t.alto_normal());
+    mueve(v.adjusted(0, y0, 0, 0), 0, std::clamp(filas, -v.height(), v.height()) * alto);
+    mueve(v.adjusted(x0, 0, 0, 0), u.px_x(twips), 0);
+}
+
+// What waits there to be painted goes along; an open editor goes by itself (Mandos::recoloca_editor).
+void VistaRejilla::mueve(const QRect& zona, int dx, int dy) {
+    if ((dx == 0 && dy == 0) || zona.isEmpty() || pedidos_ >= MAX_PEDIDOS) return;
+    pedidos_ += PEDIDOS_DE_MOVER;
+    if (pedidos_ >= MAX_PEDIDOS || a_medias_) return repinta_todo();
+    viewport()->scroll(dx, dy, zona);
+}
+
 void VistaRejilla::repinta(const QRect& zona) {
-    if (++pedidos_ == MAX_PEDIDOS) viewport()->update();
-    if (pedidos_ < MAX_PEDIDOS) viewport()->update(zona);
+    sigue_vista();
+    if (pedidos_ >= MAX_PEDIDOS) return;
+    if (++pedidos_ == MAX_PEDIDOS) return repinta_todo();
+    viewport()->update(zona);
+}
+
+void VistaRejilla::repinta_todo() {
+    pedidos_ = MAX_PEDIDOS;
+    a_medias_ = false;
+    viewport()->update();
 }
 
 void VistaRejilla::repinta_filas(int fila1, int fila2) {
-    const int ultima = ultima_fila_visible(tablero());
-    if (fila1 == 0) repinta(QRect(0, 0, viewport()->width(), rect_celda(0, 0).height()));
+    repinta_filas(fila1, fila2, 0, viewport()->width() - 1);
+}
+
+// Their pixels from x1 to x2.
+void VistaRejilla::repinta_filas(int fila1, int fila2, int x1, int x2) {
+    if (fila1 == 0) repinta(QRect(QPoint(x1, 0), QPoint(x2, rect_celda(0, 0).bottom())));
     const int desde = std::max(fila1, tablero().TopRow());
-    const int hasta = std::min(fila2, ultima);
+    const int hasta = std::min(fila2, ultima_fila_visible(tablero()));
     if (desde > hasta) return;
-    const int y1 = rect_celda(desde, 0).top();
-    const int y2 = rect_celda(hasta, 0).bottom();
-    repinta(QRect(0, y1, viewport()->width(), y2 - y1 + 1));
+    repinta(QRect(QPoint(x1, rect_celda(desde, 0).top()), QPoint(x2, rect_celda(hasta, 0).bottom())));
 }
 
 // What looks another with the focus: the selection, the frame of the current cell, and their headers.
@@ -114,64 +156,55 @@ void VistaRejilla::celdas_cambiadas(int fila1, int col1, int fila2, int col2) {
         repinta_filas(std::min(fila1, 1), tablero().Rows() - 1);
         return;
     }
-    if (fila1 != fila2 || col1 != col2) {
-        repinta_filas(fila1, fila2);
-        return;
-    }
-    if (fila1 != 0 && (fila1 < tablero().TopRow() || fila1 > ultima_fila_visible(tablero()))) return;
-    repinta(rect_celda(fila1, col1));
+    repinta_filas(fila1, fila2, rect_celda(0, col1).left(), rect_celda(0, col2).right());
 }
 
-void VistaRejilla::filas_cambiadas(int desde) {
+// The rows keep their pixels, the look of the selection among them; those that come into sight are painted.
+void VistaRejilla::filas_movidas(int desde, int n) {
+    sigue_vista();
     pon_barras();
-    dibujado_.seleccion = tablero().seleccion();
-    const int y = unidades().px_y(y_fila(tablero(), std::max(desde, tablero().TopRow()))); // may be the end
-    if (y < viewport()->height()) repinta(QRect(0, y, viewport()->width(), viewport()->height() - y));
-    if (tablero().hay_altos()) viewport()->update();
+    const Tablero& t = tablero();
+    const Unidades u = unidades();
+    const int primera = std::max(desde, t.TopRow());
+    const QRect zona = viewport()->rect().adjusted(0, u.px_y(y_fila(t, primera)), 0, 0);
+    const int lejos = std::max(0, zona.height());
+    if (!filas_iguales() || desde == 0)
+        repinta_todo();
+    else if (primera + std::max(n, 0) < t.Rows())
+        mueve(zona, 0, std::clamp(n, -lejos, lejos) * u.px_y(t.alto_normal()));
+    else if (!zona.isEmpty())
+        repinta(zona);
+    for (int* const fila : {&dibujado_.seleccion.fila1, &dibujado_.seleccion.fila2, &dibujado_.fila})
+        if (*fila >= desde) *fila = std::max(desde, *fila + n);
+    if (std::max({dibujado_.seleccion.fila2, dibujado_.fila, t.seleccion().fila2, t.Row()}) >= desde)
+        repinta_seleccion();
     tabla_.mandos().recoloca_editor();
 }
 
 void VistaRejilla::seleccion_cambiada() {
-    const Bloque nueva = tablero().seleccion();
-    const Bloque& vieja = dibujado_.seleccion;
-    repinta_filas(std::min(vieja.fila1, dibujado_.fila), std::max(vieja.fila2, dibujado_.fila));
-    repinta_filas(nueva.fila1, nueva.fila2);
-    if (nueva.col1 != vieja.col1 || nueva.col2 != vieja.col2) repinta_filas(0, 0);
-    dibujado_.seleccion = nueva;
-    dibujado_.fila = tablero().Row();
-    dibujado_.col = tablero().Col();
+    repinta_seleccion();
     emit cursor_movido();
 }
 
+// Where it was and where it is.
+void VistaRejilla::repinta_seleccion() {
+    const Bloque nueva = tablero().seleccion();
+    const Bloque vieja = std::exchange(dibujado_.seleccion, nueva);
+    const int fila = std::exchange(dibujado_.fila, tablero().Row());
+    repinta_filas(std::min(vieja.fila1, fila), std::max(vieja.fila2, fila));
+    repinta_filas(nueva.fila1, nueva.fila2);
+    if (nueva.col1 != vieja.col1 || nueva.col2 != vieja.col2) repinta_filas(0, 0);
+}
+
 void VistaRejilla::vista_desplazada() {
-    const Tablero& t = tablero();
-    const Unidades u = unidades();
-    const int dx = u.px_x(dibujado_.desplazamiento) - u.px_x(t.desplazamiento());
-    const int filas = dibujado_.fila_superior - t.TopRow();
-    dibujado_.fila_superior = t.TopRow();
-    dibujado_.desplazamiento = t.desplazamiento();
-    const QSize v = viewport()->size();
-    const int alto_fila = u.px_y(t.alto_normal());
-    const bool pocas = std::abs(filas) <= v.height() / std::max(1, alto_fila);
-    if (pedidos_ > 0 || t.hay_altos() || t.MergeCells() != 0 || !pocas || (dx != 0 && filas != 0)) {
-        pedidos_ = MAX_PEDIDOS;
-        viewport()->update();
-    } else if (filas != 0) {
-        const int y0 = u.px_y(t.RowHeight(0));
-        viewport()->scroll(0, filas * alto_fila, QRect(0, y0, v.width(), v.height() - y0));
-    } else if (dx != 0) {
-        const int x0 = u.px_x(t.ancho_visible(0));
-        viewport()->scroll(dx, 0, QRect(x0, 0, v.width() - x0, v.height()));
-    }
+    sigue_vista();
     pon_barras();
     tabla_.mandos().recoloca_editor();
 }
 
 void VistaRejilla::todo_cambiado() {
-    pedidos_ = MAX_PEDIDOS;
-    dibujado_ = {tablero().seleccion(), tablero().Row(), tablero().Col(), tablero().TopRow(),
-        tablero().desplazamiento()};
-    viewport()->update();
+    dibujado_ = {tablero().seleccion(), tablero().Row(), tablero().TopRow(), tablero().desplazamiento()};
+    repinta_todo();
     pon_barras();
     tabla_.mandos().recoloca_editor();
 }
@@ -202,6 +235,7 @@ bool VistaRejilla::viewportEvent(QEvent* e) {
 
 void VistaRejilla::paintEvent(QPaintEvent* e) {
     pedidos_ = 0;
+    a_medias_ |= !tablero().Redraw();
     const EditorCelda& editor = tabla_.mandos().editor();
     PintorRejilla::Aspecto aspecto{palette(), hasFocus() || menu_encima_ || editor.abierto(), isEnabled()};
     if (editor.abierto()) {

@@ -42,7 +42,8 @@ public:
 
     // What the grid tells; each asks for the smallest repaint.
     void celdas_cambiadas(int fila1, int col1, int fila2, int col2);
-    void filas_cambiadas(int desde);
+    /// Rows from `desde` on stand `n` rows further down, further up where negative.
+    void filas_movidas(int desde, int n);
     void seleccion_cambiada();
     void vista_desplazada();
     void todo_cambiado();
@@ -74,10 +75,10 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
 
 private:
+    // The picture as it stands, with what waits to be painted.
     struct Dibujado {
         Bloque seleccion;
         int fila = 0;
-        int col = 0;
         int fila_superior = 1;
         int desplazamiento = 0;
     };
@@ -88,8 +89,14 @@ private:
     void ajusta_ancho(int col);
     void mide_filas();
     void pon_barras();
+    [[nodiscard]] bool filas_iguales() const;
+    void sigue_vista();
+    void mueve(const QRect& zona, int dx, int dy);
     void repinta(const QRect& zona);
+    void repinta_todo();
     void repinta_filas(int fila1, int fila2);
+    void repinta_filas(int fila1, int fila2, int x1, int x2);
+    void repinta_seleccion();
     void repinta_realce();
     [[nodiscard]] bool columna_numerica() const;
     void confirma_editor();
@@ -97,7 +104,8 @@ private:
     Tabla0& tabla_;
     Dibujado dibujado_;
     TextosPreparados textos_;
-    int pedidos_ = 0; // repaint requests since the last painting
+    int pedidos_ = 0; // pieces to be repainted since the last painting, and what moves cost
+    bool a_medias_ = false; // some was painted while the grid kept its notices: moving would mix old and new
     QPoint raton_;
     int columna_en_mano_ = -1; // column whose edge is dragged
     int agarre_ = 0; // where the mouse took the edge, less the width then

@@ -181,10 +181,24 @@ TEST_F(Avisos_unidos, las_celdas_se_unen_en_un_rectangulo) {
     EXPECT_EQ(juntos([&] { t.TextMatrix(5, 1, "a"); }), Avisos({"celdas 5 1 5 1"}));
 }
 
-TEST_F(Avisos_unidos, las_filas_insertadas_o_borradas_lo_cambian_todo) {
-    EXPECT_EQ(juntos([&] { t.inserta_filas(3, 1); }), Avisos({"todo"}));
-    EXPECT_EQ(juntos([&] { t.borra_filas(3, 1); }), Avisos({"todo"}));
-    EXPECT_EQ(juntos([&] { t.Rows(7); }), Avisos({"todo"}));
+TEST_F(Avisos_unidos, filas_insertadas_o_borradas_una_vez_y_las_celdas_de_despues) {
+    EXPECT_EQ(juntos([&] { t.inserta_filas(3, 2); }), Avisos({"filas+ 3 2", "celdas 5 0 7 0"}));
+    EXPECT_EQ(juntos([&] { t.borra_filas(3, 2); }), Avisos({"filas- 3 2", "celdas 3 0 5 0"}));
+    EXPECT_EQ(juntos([&] { t.Rows(7); }), Avisos({"filas+ 6 1"}));
+    EXPECT_EQ(juntos([&] {
+        t.inserta_filas(3, 1);
+        t.TextMatrix(2, 3, "x");
+        t.Row(5);
+    }),
+        Avisos({"filas+ 3 1", "celdas 2 0 7 3", "seleccion"}));
+}
+
+TEST_F(Avisos_unidos, filas_dos_veces_o_tras_otro_cambio_lo_cambian_todo) {
+    EXPECT_EQ(juntos([&] { t.inserta_filas(3, 1), t.inserta_filas(3, 1); }), Avisos({"todo"}));
+    EXPECT_EQ(juntos([&] { t.borra_filas(3, 1), t.borra_filas(3, 1); }), Avisos({"todo"}));
+    EXPECT_EQ(juntos([&] { t.TextMatrix(1, 1, "x"), t.borra_filas(3, 1); }), Avisos({"todo"}));
+    EXPECT_EQ(juntos([&] { t.borra_filas(3, 1), t.ColWidth(1, 5); }), Avisos({"todo"}));
+    EXPECT_EQ(juntos([&] { t.TextMatrix(1, 2, "y"); }), Avisos({"celdas 1 2 1 2"}));
 }
 
 TEST_F(Avisos_unidos, una_sola_clase_se_dice_como_tal) {

@@ -8,6 +8,7 @@
 #include <QImage>
 #include <QPoint>
 #include <QWidget>
+#include <QtMath>
 
 #include <optional>
 
@@ -21,17 +22,23 @@ inline QImage pintado(const QWidget& w) {
     return imagen == nullptr ? QImage() : imagen->convertToFormat(QImage::Format_RGB32);
 }
 
-/// The first pixel of `w`, in its own coordinates, that would come out another if it were painted anew.
-/// Carets must stand still: QApplication::setCursorFlashTime(0).
+/// The first pixel of `w`, counted on the device from the window's corner, that would come out another if `w`
+/// were painted anew. Carets must stand still: QApplication::setCursorFlashTime(0).
 inline std::optional<QPoint> lugar_sin_pintar(QWidget& w) {
     QCoreApplication::processEvents();
-    const QImage hay = pintado(w).copy(QRect(w.mapTo(w.window(), QPoint(0, 0)), w.size()));
-    QImage debe(w.size(), QImage::Format_RGB32);
+    const QImage hay = pintado(w);
+    const qreal escala = w.devicePixelRatio();
+    const QPoint esquina = w.mapTo(w.window(), QPoint(0, 0));
+    const QRectF todo(QPointF(esquina) * escala, QSizeF(w.size()) * escala);
+    const QRect dentro(QPoint(qCeil(todo.left()), qCeil(todo.top())), // without the pixels it shares
+        QPoint(qFloor(todo.right()) - 1, qFloor(todo.bottom()) - 1));
+    if (!hay.rect().contains(dentro)) return QPoint(-1, -1);
+    QImage debe(hay.size(), QImage::Format_RGB32);
+    debe.setDevicePixelRatio(escala);
     debe.fill(Qt::magenta); // what a painter leaves out shows
-    w.render(&debe);
-    if (hay.isNull() || hay.size() != debe.size()) return QPoint(-1, -1);
-    for (int y = 0; y < hay.height(); ++y)
-        for (int x = 0; x < hay.width(); ++x)
+    w.render(&debe, esquina);
+    for (int y = dentro.top(); y <= dentro.bottom(); ++y)
+        for (int x = dentro.left(); x <= dentro.right(); ++x)
             if (hay.pixel(x, y) != debe.pixel(x, y)) return QPoint(x, y);
     return std::nullopt;
 }

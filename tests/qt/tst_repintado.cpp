@@ -47,6 +47,13 @@ public:
         return {0, a.top(), m.vista->viewport()->width(), b.bottom() - a.top() + 1};
     }
 
+    /// The row numbers from a row to the bottom of the window.
+    [[nodiscard]] QRect numeros(int desde) {
+        const QRect a = m.vista->rect_celda(desde, 0);
+        const QRect b = m.vista->rect_celda(ultima_fila_visible(m.tablero()), 0);
+        return QRect(a.topLeft(), b.bottomRight()) & m.vista->viewport()->rect();
+    }
+
     [[nodiscard]] int ultima() { return m.tablero().Rows() - 1; }
 
     [[nodiscard]] QRect celda(int fila, int col) const { return m.vista->rect_celda(fila, col); }
@@ -142,6 +149,10 @@ private slots:
     void una_celda_repinta_la_celda();
     void lo_que_no_se_ve_no_repinta();
     void una_muesca_repinta_lo_que_asoma();
+    void una_fila_al_final_repinta_dos_filas_y_la_suya();
+    void insertar_repinta_la_fila_y_los_numeros();
+    void borrar_repinta_la_fila_lo_que_asoma_y_los_numeros();
+    void unas_celdas_repintan_su_rectangulo();
     void muchas_celdas_repintan_una_vez();
     void sin_redibujar_no_repinta_nada();
 };
@@ -215,6 +226,52 @@ void TstRepintado::una_muesca_repinta_lo_que_asoma() {
         q.m.rueda({0, -120});
     }),
         QRegion(0, hoja.height() - 3 * alto, hoja.width(), 3 * alto));
+}
+
+// Enter on the last row makes the next one: the old current row and the new one, at the bottom of the window.
+void TstRepintado::una_fila_al_final_repinta_dos_filas_y_la_suya() {
+    MesaPintada p(MILLON);
+    p.m.actual(MILLON, NOMBRE);
+    const QRegion region = p.tras([](MesaPintada& q) { q.m.pulsa(Qt::Key_Return); });
+    QCOMPARE(p.ultima(), MILLON + 1);
+    const QSize hoja = p.m.vista->viewport()->size();
+    const int alto = p.celda(1, 0).height();
+    const QRect dos = p.filas(MILLON, MILLON + 1);
+    QCOMPARE(region.intersected(QRect(0, 0, hoja.width(), dos.top())), QRegion());
+    QVERIFY(dos.top() > hoja.height() - 3 * alto);
+    QVERIFY(!manos::lugar_sin_pintar(*p.m.vista->viewport()));
+}
+
+// The new row, the one that was current and went down with its frame, and the numbers below.
+void TstRepintado::insertar_repinta_la_fila_y_los_numeros() {
+    MesaPintada p(MILLON);
+    p.m.actual(4, NOMBRE);
+    const QRegion region =
+        p.tras([](MesaPintada& q) { q.m.tabla().mandos().orden(Opcion::mn_insertar_filas); });
+    QCOMPARE(region, QRegion(p.filas(4, 5)) + p.numeros(4));
+    QVERIFY(!manos::lugar_sin_pintar(*p.m.vista->viewport()));
+}
+
+void TstRepintado::borrar_repinta_la_fila_lo_que_asoma_y_los_numeros() {
+    MesaPintada p(MILLON);
+    p.m.actual(4, NOMBRE);
+    const QSize hoja = p.m.vista->viewport()->size();
+    const int alto = p.celda(1, 0).height();
+    const QRegion region =
+        p.tras([](MesaPintada& q) { q.m.tabla().mandos().orden(Opcion::mn_eliminar_filas); });
+    QCOMPARE(
+        region, QRegion(p.filas(4, 4)) + p.numeros(4) + QRect(0, hoja.height() - alto, hoja.width(), alto));
+    QVERIFY(!manos::lugar_sin_pintar(*p.m.vista->viewport()));
+}
+
+void TstRepintado::unas_celdas_repintan_su_rectangulo() {
+    MesaPintada p(MILLON);
+    p.m.pon(3, X, "1");
+    p.m.pon(4, X, "2");
+    p.m.tabla().mandos().elige_bloque(3, X, 5, X);
+    p.olvida();
+    QCOMPARE(p.tras([](MesaPintada& q) { q.m.tabla().mandos().orden(Opcion::mn_borrar_seleccion); }),
+        QRegion(p.celda(3, X) | p.celda(4, X)));
 }
 
 void TstRepintado::muchas_celdas_repintan_una_vez() {
