@@ -167,6 +167,21 @@ std::size_t escribe_con_ceros(const Decimal& numero, int decimales, char* destin
     return static_cast<std::size_t>(p - destino);
 }
 
+// x, above 0, where it is the double nearest to a decimal of at most 15 digits, 9 of them behind the point: then those
+// are the 15 digits it shows. Nothing for others, and for some that are.
+std::optional<Decimal> con_pocos_decimales(double x) noexcept {
+    for (const int decimales : {0, 3, 6, 9}) {
+        const auto potencia = static_cast<double>(potencias[static_cast<std::size_t>(decimales)]);
+        const double unidades = x * potencia + 0.5;
+        if (!(unidades < static_cast<double>(potencias[maximas_cifras]))) break;
+        Decimal n{false, static_cast<std::uint64_t>(unidades), decimales};
+        if (static_cast<double>(n.cifras) / potencia != x) continue;
+        for (; n.decimales > 0 && n.cifras % 10 == 0; n.cifras /= 10) --n.decimales;
+        return n;
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
 // Both are whole numbers that a double holds, so the result is the nearest one.
@@ -181,6 +196,12 @@ double real_de_decimal(const Decimal& numero) noexcept {
 Decimal decimal_de_real(double x, int significativas) {
     if (!std::isfinite(x)) lanza(NumError::Desbordamiento);
     if (x == 0) return {};
+    if (significativas == maximas_cifras) {
+        if (std::optional<Decimal> n = con_pocos_decimales(std::fabs(x))) {
+            n->negativo = x < 0;
+            return *n;
+        }
+    }
     char memoria[capacidad_numero];
     const std::string_view texto = cientifico(std::fabs(x), significativas, memoria);
     const std::size_t e = texto.find('e');

@@ -21,8 +21,8 @@ struct Decimal {
     int decimales = 0; // below 0 (never for zero): that many zeros follow the digits
 };
 
-// x rounded to `significativas` digits (1 to 15), without trailing zeros. Error 6 when x is not
-// finite.
+// x rounded to `significativas` digits (1 to 15), without zeros at the end of its decimals. Error 6 when x is
+// not finite.
 Decimal decimal_de_real(double x, int significativas = 15);
 
 // The number a text is in its plainest form: a "-" at most, digits, a point or comma at most, in no
@@ -41,7 +41,7 @@ std::optional<Decimal> suma_exacta(const Decimal& a, const Decimal& b) noexcept;
 // capacidad_fijo bytes, of which those behind the text are overwritten too.
 std::size_t escribe_fijo(const Decimal& numero, int decimales, char* destino) noexcept;
 
-// numero_a_texto of the number, whose `cifras` have no trailing zeros: plain while it is below
+// numero_a_texto of the number, whose decimals have no zeros at their end: plain while it is below
 // 10^significativas and needs at most so many decimals; the number of bytes written. `destino` has
 // capacidad_numero bytes.
 std::size_t escribe_numero(const Decimal& numero, int significativas, char* destino) noexcept;

@@ -103,7 +103,14 @@ void escribe_diferencias(EstadoTabla& e, int columna, int colResul, std::vector<
         anterior = en_si_misma ? nuevo : actual;
         return nuevo != viejo;
     };
-    escribe_columna(e, colResul, !en_si_misma, {texto, {}});
+    const auto numero = [&](int fila) {
+        const std::string_view actual = e.tablero.TextMatrix(fila, columna);
+        const auto n = fila == 1 ? std::nullopt : opera_decimales(actual, Operacion::Resta, anterior);
+        if (n) anterior = actual;
+        if (n && n->negativo) negativas.push_back(fila);
+        return n;
+    };
+    escribe_columna(e, colResul, !en_si_misma, {texto, numero});
 }
 
 } // namespace

@@ -117,6 +117,20 @@ TEST(CaminosCortos, ATextIsFormattedAsItsNumberIs) {
     }
 }
 
+TEST(CaminosCortos, ANumberShowsItsFifteenDigits) {
+    Azar azar(8);
+    char memoria[64];
+    for (int i = 0; i < 700'000; ++i) {
+        double x = Val(azar.numero(9, azar.hasta(12)));
+        if (azar.una_de(4)) x /= 1 + azar.hasta(1000);
+        const int decimales = azar.hasta(12);
+        ASSERT_EQ(formato_fijo(x, decimales), fijo_llano(x, decimales)) << x << " with " << decimales;
+        if (std::fabs(x) < 0.1 || std::fabs(x) >= 1e15) continue; // those may need an exponent
+        std::snprintf(memoria, sizeof memoria, "%.15g", x);
+        ASSERT_EQ(numero_a_texto(x), memoria);
+    }
+}
+
 TEST(CaminosCortos, ATextThatIsSaidToHaveItsFormHasIt) {
     Azar azar(2);
     int con_forma = 0;
