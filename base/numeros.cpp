@@ -19,6 +19,7 @@ namespace Qlt4_Tabla {
 namespace {
 
 constexpr std::size_t texto_corto = 100;
+constexpr double INFINITO = std::numeric_limits<double>::infinity();
 
 constexpr bool es_blanco(char c) noexcept { return c == ' ' || c == '\t' || c == '\n'; }
 
@@ -67,7 +68,7 @@ enum class Lectura { SinNumero, Parte, Todo, Desborda };
 
 struct Leido {
     Lectura estado = Lectura::SinNumero; // Parte: something that is no number follows
-    double valor = 0; // finite; 0 for SinNumero and Desborda
+    double valor = 0; // 0 for SinNumero; infinite, with the sign of the text, for Desborda
 };
 
 // Of a number that no double can hold: whether it is too large (else it is too near to zero).
@@ -107,7 +108,7 @@ Leido lee_con_base(Lector& lector) noexcept {
     }
     if (!hay_cifra) return {};
     const bool largo = lector.toma('&');
-    if (n > maximo) return {Lectura::Desborda, 0};
+    if (n > maximo) return {Lectura::Desborda, INFINITO};
     const Lectura estado = lector.acabado() ? Lectura::Todo : Lectura::Parte;
     if (n <= 0xFFFF && !largo) return {estado, static_cast<double>(static_cast<std::int16_t>(n))};
     return {estado, static_cast<double>(static_cast<std::int32_t>(n))};
@@ -144,7 +145,8 @@ Leido lee_decimal(Lector& lector, char* copia) noexcept {
     const Lectura estado = r.ptr == fin && lector.acabado() ? Lectura::Todo : Lectura::Parte;
     if (r.ec != std::errc{}) {
         const bool enorme = es_enorme({copia, static_cast<std::size_t>(r.ptr - copia)});
-        return {enorme ? Lectura::Desborda : estado, 0};
+        if (enorme) return {Lectura::Desborda, *copia == '-' ? -INFINITO : INFINITO};
+        return {estado, 0};
     }
     return {estado, valor == 0 ? 0 : valor}; // -0 is 0
 }
@@ -209,7 +211,12 @@ constexpr int cifras_simple = 7;
 
 } // namespace
 
-double Val(std::string_view texto) { return lee_numero(texto).valor; }
+double Val(std::string_view texto) {
+    const double valor = Val_sin_tope(texto);
+    return std::isinf(valor) ? 0 : valor;
+}
+
+double Val_sin_tope(std::string_view texto) { return lee_numero(texto).valor; }
 
 std::optional<double> numero_de_texto(std::string_view texto) {
     texto = sin_blancos_alrededor(texto);

@@ -29,6 +29,9 @@ namespace Qlt4_Tabla {
 // memory; allocates only for texts of more than 100 characters.
 TABLA_API double Val(std::string_view texto);
 
+// The same, for a caller with bounds of its own: a number beyond the range is infinite, with its sign.
+TABLA_API double Val_sin_tope(std::string_view texto);
+
 // The number a whole text is, blanks (U+0020, TAB) around it allowed and none within; a comma may
 // stand for the point. Nothing where the text is no number ("", "12 m", "1 2", "inf").
 // Error 6 beyond the range of a double.

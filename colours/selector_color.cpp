@@ -129,7 +129,7 @@ int indice_de_texto(std::string_view texto) {
     const std::string_view recortado = sin_blancos(texto);
     for (int i = 1; i <= ULTIMO_ESCRITO; ++i)
         if (iguales(recortado, textos::nombres_color[static_cast<std::size_t>(i)])) return i;
-    return entero16_de_real(std::clamp(Val(recortado), -32768.0, 32767.0));
+    return entero16_de_real(std::clamp(Val_sin_tope(recortado), -32768.0, 32767.0));
 }
 
 // The index of the palette that shows a colour, by its table before its keys; NINGUNA when it has none.

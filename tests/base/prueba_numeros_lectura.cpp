@@ -84,6 +84,14 @@ TEST(Val, lo_que_no_cabe_en_un_doble_es_0) {
     EXPECT_EQ(Val("5e-324"), std::numeric_limits<double>::denorm_min());
 }
 
+TEST(Val, sin_tope_lo_enorme_es_infinito_con_su_signo) {
+    constexpr double INFINITO = std::numeric_limits<double>::infinity();
+    for (const char* texto : {"1e309", "1.8e308 m", "&H100000000"}) EXPECT_EQ(Val_sin_tope(texto), INFINITO);
+    EXPECT_EQ(Val_sin_tope(" -1e309"), -INFINITO);
+    EXPECT_EQ(Val_sin_tope("1e-400"), 0);
+    EXPECT_EQ(Val_sin_tope("12.5 m"), 12.5);
+}
+
 TEST(Val, el_cero_no_tiene_signo) {
     for (const char* texto : {"-0", "-0.0", "-0e5", "-1e-400", "-", "-abc"})
         EXPECT_FALSE(std::signbit(Val(texto))) << texto;

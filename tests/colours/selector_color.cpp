@@ -175,7 +175,11 @@ TEST_F(Selector, TextsOfTheBox) {
         {"300", "7", 0xFFFFFF, 7, 0},
         {"40000", "7", 0xFFFFFF, 7, 0},
         {"1E300", "7", 0xFFFFFF, 7, 0},
+        {"1e999", "7", 0xFFFFFF, 7, 0},
+        {"1e999 m", "7", 0xFFFFFF, 7, 0},
+        {"&HFFFFFFFFF", "7", 0xFFFFFF, 7, 0},
         {"-1", "7", 0xFFFFFF, 7, 1},
+        {"-1e999", "7", 0xFFFFFF, 7, 1},
         {"-40000", "7", 0xFFFFFF, 7, 1},
     };
     for (const Tecleado& caso : casos) {
