@@ -52,6 +52,7 @@ OBRAS = [
     ("rueda_pintada", "scroll by 3 rows, painted", "ms", 1),
     ("arrastra_pintado", "drag a width, painted", "ms", 1),
     ("arranque", "start to the first painted window", "ms", 1),
+    ("arranque_letra", "the same, limit: a window with one letter", "ms", 1),
 ]
 
 # heading, program, its first argument, groups
@@ -63,7 +64,7 @@ CONCURSANTES = [
     ("wxGrid", "rejilla_wx", "wxgrid", ["celdas", "columnas", "pega", "fichero"]),
     ("vectors", "celdas", "vectores", ["celdas", "columnas", "pega", "fichero"]),
     ("limit", "celdas", "limite", ["celdas", "columnas", "pega", "fichero"]),
-    ("limit", "ventanas_qt", "limite", ["ventana", "arranque"]),
+    ("limit", "ventanas_qt", "limite", ["ventana", "arranque", "arranque_letra"]),
 ]
 PARES = ["QTableWidget", "QStandardItemModel", "wxGrid", "vectors"]
 NOMBRES = ["this table", *PARES, "limit"]
