@@ -22,6 +22,13 @@ std::string uno_u_otro(std::string uno, std::string otro) {
     return uno.empty() ? std::move(otro) : std::move(uno);
 }
 
+/// "&" would mark a key in a caption: a name is shown with it doubled.
+std::string en_menu(std::string_view nombre) {
+    std::string texto;
+    for (const char c : nombre) texto.append(c == '&' ? 2 : 1, c);
+    return texto;
+}
+
 std::string titulo_al_abrir(std::string_view nombre) {
     return junta({textos::abrir_antes, nombre, textos::abrir_despues});
 }
@@ -72,7 +79,7 @@ std::string elige_fichero_de_grabacion(EstadoTabla& e) {
 }
 
 void pon_titulos_de_ficheros(EstadoTabla& e) {
-    const std::string nombre = nombre_en_menu(e);
+    const std::string nombre = en_menu(nombre_en_menu(e));
     e.menus[Opcion::Mnu_Tabla_Leer].titulo = titulo_al_abrir(nombre);
     e.menus[Opcion::Mnu_Tabla_Guardar_como].titulo = titulo_al_guardar(nombre);
     e.plataforma.marco.menus_cambiados();

@@ -27,9 +27,6 @@ namespace {
 
 constexpr QSize AIRE_BOTON(12, 0); // beside its text, more than the style gives
 
-// The text of a control as it is seen, though "&" marks a key in it.
-QString sin_tecla(QString texto) { return texto.replace(QLatin1Char('&'), QStringLiteral("&&")); }
-
 } // namespace
 
 VentanaColumnas::VentanaColumnas(ModeloColumnas& modelo, QWidget* padre)

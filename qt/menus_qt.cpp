@@ -48,10 +48,9 @@ QIcon muestra(std::int32_t color, const QMenu& menu) {
 // Texts of cells are shown as they are: no sign of theirs marks a key or parts a shortcut off.
 QString entrada(QString texto) {
     if (texto.size() > MAX_ENTRADA) texto = texto.left(MAX_ENTRADA) + QChar(0x2026);
-    texto.replace(QChar('&'), QStringLiteral("&&"));
     for (QChar& c : texto)
         if (!c.isPrint()) c = QChar(' ');
-    return texto;
+    return sin_tecla(texto);
 }
 
 } // namespace

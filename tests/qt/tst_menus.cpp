@@ -21,6 +21,7 @@ private slots:
     void init() { QApplication::clipboard()->clear(); }
 
     void el_menu_muestra_sus_titulos_y_atajos();
+    void el_nombre_de_la_tabla_se_ve_como_es();
     void pegar_esta_apagado_sin_texto();
     void la_marca_del_avance_se_ve();
     void los_textos_de_las_celdas_se_ven_como_son();
@@ -105,6 +106,15 @@ void TstMenus::el_menu_muestra_sus_titulos_y_atajos() {
     QVERIFY(accion(*menu, "mn_copiar")->isShortcutVisibleInContextMenu());
     QVERIFY(accion(*menu, "mn_Filas")->font().bold());
     QCOMPARE(menu->activeAction()->objectName(), QStringLiteral("mn_Deshacer"));
+}
+
+void TstMenus::el_nombre_de_la_tabla_se_ve_como_es() {
+    MesaQt m;
+    m.tabla().Tablero_Nombres("Agua & Gas", "Puntos", "*.tb0");
+    QMenu* menu = abre(m);
+    QCOMPARE(accion(*menu, "Mnu_Tabla_Leer")->text(), QStringLiteral("Abrir Tabla de Agua && Gas..."));
+    QCOMPARE(accion(*menu, "Mnu_Tabla_Guardar_como")->text(),
+        QStringLiteral("Guardar Tabla de Agua && Gas como..."));
 }
 
 void TstMenus::pegar_esta_apagado_sin_texto() {
