@@ -15,6 +15,7 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <utility>
 
 namespace Qlt4_Tabla {
 
@@ -113,13 +114,13 @@ void PuertosQt::todo_cambiado() {
 // become 4995 in a host's form.
 float PuertosQt::ancho() const {
     const Unidades u(widget_);
-    if (u.px_x(static_cast<int>(ancho_dado_)) == widget_.width()) return ancho_dado_;
+    if (ancho_dado_ && u.px_x(static_cast<int>(*ancho_dado_)) == widget_.width()) return *ancho_dado_;
     return static_cast<float>(u.twips_x(widget_.width()));
 }
 
 float PuertosQt::alto() const {
     const Unidades u(widget_);
-    if (u.px_y(static_cast<int>(alto_dado_)) == widget_.height()) return alto_dado_;
+    if (alto_dado_ && u.px_y(static_cast<int>(*alto_dado_)) == widget_.height()) return *alto_dado_;
     return static_cast<float>(u.twips_y(widget_.height()));
 }
 
@@ -128,7 +129,7 @@ void PuertosQt::pon_tamano(float ancho, float alto) {
     const Unidades u(widget_);
     ancho_dado_ = std::clamp(ancho, 0.0F, MAXIMO);
     alto_dado_ = std::clamp(alto, 0.0F, MAXIMO);
-    widget_.resize(u.px_x(static_cast<int>(ancho_dado_)), u.px_y(static_cast<int>(alto_dado_)));
+    widget_.resize(u.px_x(static_cast<int>(*ancho_dado_)), u.px_y(static_cast<int>(*alto_dado_)));
 }
 
 void PuertosQt::etiquetas_cambiadas() {
@@ -220,7 +221,31 @@ std::string PuertosQt::Lista::texto() const {
 
 // --- Mensajes ---
 
+// The pointer of somebody who is asked, while it lives; how long the answer takes is not the command's time.
+class PuertosQt::SinReloj {
+public:
+    explicit SinReloj(PuertosQt& p) : p_(p), habia_(std::exchange(p.reloj_, false)) {
+        if (habia_) QApplication::restoreOverrideCursor();
+    }
+
+    ~SinReloj() {
+        if (!habia_) return;
+        p_.reloj_ = true;
+        p_.paciencia_.setRemainingTime(falta_ms_);
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    }
+
+    SinReloj(const SinReloj&) = delete;
+    SinReloj& operator=(const SinReloj&) = delete;
+
+private:
+    PuertosQt& p_;
+    bool habia_;
+    qint64 falta_ms_ = p_.paciencia_.remainingTime();
+};
+
 Respuesta PuertosQt::mensaje(std::string_view texto, EstiloMensaje estilo, std::string_view titulo) {
+    const SinReloj sin_reloj(*this);
     // Over the dialog of the table that is open, which would cover it otherwise.
     QWidget* const dialogo = QApplication::activeModalWidget();
     QMessageBox caja(dialogo != nullptr ? dialogo : widget_.window());
@@ -230,9 +255,11 @@ Respuesta PuertosQt::mensaje(std::string_view texto, EstiloMensaje estilo, std::
     const bool critico = estilo == EstiloMensaje::Critico || estilo == EstiloMensaje::CriticoSiNo;
     if (critico) caja.setIcon(QMessageBox::Critical);
     if (estilo == EstiloMensaje::Informacion) caja.setIcon(QMessageBox::Information);
-    // Qt would name the buttons in the language of the system, or in English.
-    const auto nombra = [&caja](QMessageBox::StandardButton boton, std::string_view nombre) {
-        caja.addButton(boton)->setText(a_qstring(nombre));
+    // Qt would name the buttons in the language of the system, or in English, and draw pictures on them.
+    const auto nombra = [&caja](QMessageBox::StandardButton cual, std::string_view nombre) {
+        QPushButton* const boton = caja.addButton(cual);
+        boton->setText(a_qstring(nombre));
+        boton->setIcon({});
     };
     if (estilo != EstiloMensaje::CriticoSiNo) {
         nombra(QMessageBox::Ok, textos::aceptar);
@@ -252,7 +279,7 @@ void PuertosQt::puntero(Puntero forma) {
     if (reloj == reloj_) return;
     reloj_ = reloj;
     if (reloj) {
-        espera_.start();
+        paciencia_.setRemainingTime(PACIENCIA_MS);
         QApplication::setOverrideCursor(Qt::WaitCursor);
     } else {
         QApplication::restoreOverrideCursor();
@@ -261,7 +288,7 @@ void PuertosQt::puntero(Puntero forma) {
 }
 
 void PuertosQt::avance(std::string_view que, int por_ciento) {
-    if (reloj_ && espera_.hasExpired(PACIENCIA_MS)) widget_.muestra_avance(a_qstring(que), por_ciento);
+    if (reloj_ && paciencia_.hasExpired()) widget_.muestra_avance(a_qstring(que), por_ciento);
 }
 
 // --- SeparadorDecimal ---

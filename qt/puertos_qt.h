@@ -13,7 +13,7 @@
 #include "qt/dialogo_fichero_qt.h"
 #include "qt/portapapeles_qt.h"
 
-#include <QElapsedTimer>
+#include <QDeadlineTimer>
 #include <QLocale>
 #include <QPointer>
 
@@ -101,11 +101,13 @@ private:
         PuertosQt& p_;
     };
 
+    class SinReloj;
+
     [[nodiscard]] QRect px(const Rectangulo& r) const;
 
     TablaWidget& widget_;
-    float ancho_dado_ = -1; // twips, as the host gave them
-    float alto_dado_ = -1;
+    std::optional<float> ancho_dado_; // twips, as the host gave them
+    std::optional<float> alto_dado_;
     QPointer<VistaRejilla> vista_;
     QPointer<Casilla> casilla_;
     QPointer<ListaCelda> cob_lista_;
@@ -120,7 +122,7 @@ private:
     DialogoColumnasQt dialogo_columnas_;
     std::optional<bool> coma_;
     bool reloj_ = false;
-    QElapsedTimer espera_; // since the hourglass stands
+    QDeadlineTimer paciencia_; // until a command says how far it is; stands still while a message asks
 };
 
 } // namespace Qlt4_Tabla

@@ -2,7 +2,9 @@
 // The widget around the grid: labels, message boxes, events, sizes, decimal sign, several tables at once.
 #include "tests/qt/mesa_qt.h"
 
+#include <QLayout>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QSignalSpy>
 
 using namespace Qlt4_Tabla;
@@ -30,6 +32,10 @@ private slots:
     void dos_tablas_no_comparten_nada();
     void sin_columnas_o_sin_filas_se_pinta();
     void el_reloj_se_quita_con_la_tabla();
+    void un_mensaje_no_lleva_el_reloj();
+    void lo_que_tarda_una_respuesta_no_cuenta();
+    void los_botones_de_un_mensaje_no_llevan_dibujo();
+    void una_tabla_sin_tamano_mide_cero();
     void un_trabajo_largo_dice_por_donde_va();
     void otra_letra_cambia_el_alto_de_las_filas();
 };
@@ -89,10 +95,12 @@ struct Escucha {
 
     Plataforma toma(const Plataforma& p) {
         mensajes = &p.mensajes;
+        marco = &p.marco;
         return p;
     }
 
     Mensajes* mensajes = nullptr;
+    Marco* marco = nullptr;
     TablaWidget tabla;
 };
 
@@ -300,6 +308,62 @@ void TstEtiquetas::un_trabajo_largo_dice_por_donde_va() {
     e.mensajes->avance("Pegando", 10);
     QVERIFY(!barra->isVisible());
     e.mensajes->puntero(Puntero::Normal);
+}
+
+void TstEtiquetas::un_mensaje_no_lleva_el_reloj() {
+    Escucha e(nullptr);
+    bool con_reloj = true;
+    manos::Mensajero mensajero(
+        [&](const QString&) { con_reloj = QApplication::overrideCursor() != nullptr; });
+    e.mensajes->puntero(Puntero::RelojDeArena);
+    e.mensajes->mensaje("¿?", EstiloMensaje::CriticoSiNo, {});
+    QVERIFY(!con_reloj);
+    QVERIFY(QApplication::overrideCursor() != nullptr);
+    QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    e.mensajes->puntero(Puntero::Normal);
+    QVERIFY(!QApplication::overrideCursor());
+    e.mensajes->mensaje("¿?", EstiloMensaje::CriticoSiNo, {});
+    QVERIFY(!QApplication::overrideCursor());
+}
+
+void TstEtiquetas::lo_que_tarda_una_respuesta_no_cuenta() {
+    Escucha e(nullptr);
+    manos::Mensajero mensajero([](const QString&) { QTest::qSleep(1001); });
+    e.mensajes->puntero(Puntero::RelojDeArena);
+    e.mensajes->mensaje("¿?", EstiloMensaje::CriticoSiNo, {});
+    e.mensajes->avance("Pegando", 10);
+    QVERIFY(!e.tabla.findChild<QProgressBar*>(QStringLiteral("avance")));
+    QTest::qSleep(1001);
+    e.mensajes->mensaje("¿?", EstiloMensaje::CriticoSiNo, {}); // nor does it begin again
+    e.mensajes->avance("Pegando", 20);
+    QVERIFY(e.tabla.findChild<QProgressBar*>(QStringLiteral("avance")));
+    e.mensajes->puntero(Puntero::Normal);
+}
+
+void TstEtiquetas::los_botones_de_un_mensaje_no_llevan_dibujo() {
+    Escucha e(nullptr);
+    int botones = 0;
+    int dibujos = 0;
+    manos::Mensajero mensajero([&](const QString&) {
+        for (const auto* b : QApplication::activeModalWidget()->findChildren<QPushButton*>()) {
+            ++botones;
+            dibujos += b->icon().isNull() ? 0 : 1;
+        }
+    });
+    e.mensajes->mensaje("¿?", EstiloMensaje::CriticoSiNo, {});
+    e.mensajes->mensaje("¡!", EstiloMensaje::Critico, {});
+    QCOMPARE(botones, 3);
+    QCOMPARE(dibujos, 0);
+}
+
+void TstEtiquetas::una_tabla_sin_tamano_mide_cero() {
+    Escucha e(nullptr);
+    e.tabla.setMinimumSize(0, 0);
+    e.tabla.layout()->setSizeConstraint(QLayout::SetNoConstraint);
+    e.tabla.resize(0, 0);
+    QCOMPARE(e.tabla.size(), QSize(0, 0));
+    QCOMPARE(e.marco->ancho(), 0.0F);
+    QCOMPARE(e.marco->alto(), 0.0F);
 }
 
 void TstEtiquetas::otra_letra_cambia_el_alto_de_las_filas() {
