@@ -283,7 +283,8 @@ void VistaRejilla::focusOutEvent(QFocusEvent* e) {
 }
 
 void VistaRejilla::keyPressEvent(QKeyEvent* e) {
-    bool usada = tabla_.mandos().tecla_abajo(codigo_tecla_abajo(*e), modificadores(e->modifiers()));
+    const int codigo_abajo = es_de_la_rejilla(*e) ? codigo_tecla_abajo(*e) : int{teclas::NINGUNA};
+    bool usada = tabla_.mandos().tecla_abajo(codigo_abajo, modificadores(e->modifiers()));
     if (!usada) {
         std::vector<int> codigos = codigos_tecleados(*e);
         if (es_decimal_del_teclado_numerico(*e) && columna_numerica()) codigos = {'.'};
@@ -328,7 +329,8 @@ void VistaRejilla::mousePressEvent(QMouseEvent* e) {
         agarre_ = e->position().toPoint().x() - rect_celda(0, columna_en_mano_).width();
         return;
     }
-    setFocus(Qt::MouseFocusReason);
+    // An open editor is closed by the core, when it has the place: its commit may move rows under the mouse.
+    if (e->button() != Qt::LeftButton || !tabla_.mandos().editor().abierto()) setFocus(Qt::MouseFocusReason);
     const QPoint p = a_twips(e->position());
     tabla_.mandos().raton_abajo(p.x(), p.y(), boton_de(e->button()), modificadores(e->modifiers()));
 }

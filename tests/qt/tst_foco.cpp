@@ -25,6 +25,8 @@ private slots:
     void un_clic_en_otro_control_confirma();
     void setFocus_en_otro_control_confirma();
     void un_clic_en_otra_celda_confirma_la_editada();
+    void el_clic_que_confirma_va_a_la_celda_senalada();
+    void el_clic_derecho_confirma_tambien();
     void un_menu_no_confirma();
     void el_menu_de_la_propia_casilla_no_confirma();
     void un_mensaje_no_confirma();
@@ -131,6 +133,27 @@ void TstFoco::un_clic_en_otra_celda_confirma_la_editada() {
     QCOMPARE(m.donde(), QStringLiteral("4 2"));
     QVERIFY(m.vista->hasFocus() && !m.casilla->isVisible());
     QCOMPARE(m.recoge(), QStringLiteral("CambiaCasilla,SelChange"));
+}
+
+void TstFoco::el_clic_que_confirma_va_a_la_celda_senalada() {
+    MesaQt m(200);
+    m.teclea("x");
+    m.al_cambiar = [&] { m.tabla().A_RowTop(11); }; // row 15 stands now where row 5 was
+    m.clic(5, X);
+    QCOMPARE(m.tablero().TopRow(), 11);
+    QCOMPARE(m.seleccion(), QStringLiteral("5 2 5 2"));
+    QCOMPARE(m.celda(1, NOMBRE), QStringLiteral("x"));
+    QVERIFY(m.vista->hasFocus());
+    QCOMPARE(m.recoge(), QStringLiteral("CambiaCasilla,SelChange"));
+}
+
+void TstFoco::el_clic_derecho_confirma_tambien() {
+    MesaQt m;
+    m.teclea("x");
+    manos::clic(*m.vista->viewport(), m.centro(5, X), {}, Qt::RightButton);
+    QVERIFY(!m.casilla->isVisible());
+    QCOMPARE(m.celda(1, NOMBRE), QStringLiteral("x"));
+    QCOMPARE(m.donde(), QStringLiteral("1 1"));
 }
 
 void TstFoco::un_menu_no_confirma() {

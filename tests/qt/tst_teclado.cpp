@@ -29,6 +29,7 @@ private slots:
     void un_atajo_del_anfitrion_sigue_siendo_suyo();
     void Ctrl_C_V_X_Z_son_de_la_casilla();
     void Ctrl_con_letra_no_abre();
+    void Alt_con_tecla_no_es_de_la_rejilla();
     void Ctrl_Intro_no_es_Intro();
     void AltGr_escribe();
     void una_tecla_que_nadie_usa_llega_al_anfitrion();
@@ -248,6 +249,19 @@ void TstTeclado::Ctrl_con_letra_no_abre() {
     m.pulsa(Qt::Key_B, Qt::AltModifier);
     m.pulsa(Qt::Key_B, Qt::MetaModifier);
     QVERIFY(!m.casilla->isVisible());
+}
+
+void TstTeclado::Alt_con_tecla_no_es_de_la_rejilla() {
+    MesaQt m;
+    m.pon(1, NOMBRE, "valor");
+    m.pulsa(Qt::Key_F2, Qt::AltModifier);
+    m.pulsa(Qt::Key_F2, Qt::MetaModifier);
+    QVERIFY(!m.casilla->isVisible());
+    m.pulsa(Qt::Key_Delete, Qt::AltModifier);
+    m.pulsa(Qt::Key_Delete, Qt::MetaModifier);
+    QCOMPARE(m.celda(1, NOMBRE), QStringLiteral("valor"));
+    m.pulsa(Qt::Key_Delete);
+    QCOMPARE(m.celda(1, NOMBRE), QString());
 }
 
 void TstTeclado::Ctrl_Intro_no_es_Intro() {
