@@ -3,12 +3,12 @@
 #include "qt/casilla.h"
 
 #include "qt/accesible.h"
+#include "qt/medidas_rejilla.h"
 #include "qt/pintor_rejilla.h"
 #include "qt/teclas_qt.h"
 #include "qt/vista_rejilla.h"
 
 #include <QHideEvent>
-#include <QInputMethodEvent>
 #include <QKeyEvent>
 
 namespace Qlt4_Tabla {
@@ -18,7 +18,7 @@ MotivoFoco motivo_de(Qt::FocusReason razon) {
     return razon == Qt::ActiveWindowFocusReason ? MotivoFoco::Ventana : MotivoFoco::Otro;
 }
 
-Casilla::Casilla(VistaRejilla& vista) : QLineEdit(vista.viewport()), vista_(vista) {
+Casilla::Casilla(VistaRejilla& vista) : CajaLinea(vista.viewport()), vista_(vista) {
     setObjectName(QStringLiteral("Casilla"));
     setFrame(false);
     setFocusPolicy(Qt::ClickFocus); // Tab never lands here: it leaves the table
@@ -37,9 +37,10 @@ bool Casilla::columna_numerica() {
 // Inside the frame of the current cell, which the grid draws around it.
 void Casilla::mueve(const QRect& celda) {
     setGeometry(celda.adjusted(MARCO_PX, MARCO_PX, -MARCO_PX, -MARCO_PX));
+    recorta(*this, vista_.vista_del_editor());
 }
 
-void Casilla::muestra(const QRect& celda, const QString& texto) {
+void Casilla::muestra(const QRect& celda, std::string_view texto) {
     mueve(celda);
     const int col = vista_.tablero().Col();
     switch (vista_.tablero().ColAlignment(col)) {
@@ -47,12 +48,14 @@ void Casilla::muestra(const QRect& celda, const QString& texto) {
     case AlineacionCelda::Centro: setAlignment(Qt::AlignHCenter | Qt::AlignVCenter); break;
     case AlineacionCelda::Derecha: setAlignment(Qt::AlignRight | Qt::AlignVCenter); break;
     }
-    setText(texto);
+    pon(texto);
     setAccessibleName(lugar_de_celda(vista_.tabla(), vista_.tablero().Row(), col));
     vista_.editor_mostrado();
     show();
     setFocus(Qt::OtherFocusReason);
 }
+
+int Casilla::tecla(int KeyAscii) { return mandos().tecla_casilla(KeyAscii); }
 
 bool Casilla::event(QEvent* e) {
     // While it is open the box owns its keys, those that the host or the table bind as shortcuts too.
@@ -63,42 +66,30 @@ bool Casilla::event(QEvent* e) {
             return true;
         }
     }
-    return QLineEdit::event(e);
+    return CajaLinea::event(e);
 }
 
 void Casilla::keyPressEvent(QKeyEvent* e) {
     if (es_decimal_del_teclado_numerico(*e) && columna_numerica()) {
-        if (mandos().tecla_casilla('.') != 0) insert(QStringLiteral("."));
+        if (tecla('.') != 0) insert(QStringLiteral("."));
         return;
     }
     const std::vector<int> codigos = codigos_tecleados(*e);
     for (const int codigo : codigos) {
-        if (mandos().tecla_casilla(codigo) == 0) return;
+        if (tecla(codigo) == 0) return;
     }
-    QLineEdit::keyPressEvent(e);
+    CajaLinea::keyPressEvent(e);
     e->accept(); // a key that the box could not use, such as Up, is not a key of the grid
 }
 
-void Casilla::inputMethodEvent(QInputMethodEvent* e) {
-    QString pasa;
-    for (const int codigo : codigos_de_texto(e->commitString())) {
-        const int resto = mandos().tecla_casilla(codigo);
-        if (resto != 0) pasa += texto_de_codigo(resto);
-    }
-    QInputMethodEvent filtrado(e->preeditString(), e->attributes());
-    filtrado.setCommitString(pasa, e->replacementStart(), e->replacementLength());
-    QLineEdit::inputMethodEvent(&filtrado);
-    e->accept();
-}
-
 void Casilla::focusOutEvent(QFocusEvent* e) {
-    QLineEdit::focusOutEvent(e);
+    CajaLinea::focusOutEvent(e);
     mandos().casilla_pierde_foco(motivo_de(e->reason()));
 }
 
 // A window that is hidden takes the focus away too late to know why.
 void Casilla::hideEvent(QHideEvent* e) {
-    QLineEdit::hideEvent(e);
+    CajaLinea::hideEvent(e);
     if (!e->spontaneous()) vista_.editor_oculto();
 }
 

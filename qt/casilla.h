@@ -3,29 +3,29 @@
 // decided by the core's in-cell editor. The seam is CajaTexto, served by PuertosQt.
 #pragma once
 
+#include "qt/caja_linea.h"
+
 #ifndef Q_MOC_RUN // the scanner cannot read letters beyond ASCII in published names
 #include "control/tabla0.h"
 #endif
-
-#include <QLineEdit>
 
 namespace Qlt4_Tabla {
 
 class VistaRejilla;
 
-class Casilla final : public QLineEdit {
+class Casilla final : public CajaLinea {
     Q_OBJECT
 
 public:
     explicit Casilla(VistaRejilla& vista);
 
-    void muestra(const QRect& celda, const QString& texto);
+    void muestra(const QRect& celda, std::string_view texto);
     void mueve(const QRect& celda);
 
 protected:
+    [[nodiscard]] int tecla(int KeyAscii) override;
     bool event(QEvent* e) override;
     void keyPressEvent(QKeyEvent* e) override;
-    void inputMethodEvent(QInputMethodEvent* e) override;
     void focusOutEvent(QFocusEvent* e) override;
     void hideEvent(QHideEvent* e) override;
     bool focusNextPrevChild(bool siguiente) override;

@@ -3,6 +3,7 @@
 #include "qt/dialogo_color.h"
 
 #include "qt/accesible.h"
+#include "qt/caja_linea.h"
 #include "qt/colores_qt.h"
 #include "qt/sitio_ventana.h"
 #include "qt/texto_qt.h"
@@ -13,7 +14,6 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPainter>
 #include <QPointer>
 #include <QPushButton>
@@ -97,7 +97,7 @@ QWidget* VentanaColor::crea_fila_texto() {
     auto* fila = new QWidget(this);
     auto* caja = crea_fila(fila);
     muestra_ = new QLabel(fila);
-    texto_ = new QLineEdit(fila);
+    texto_ = new CajaLinea(fila);
     texto_->setObjectName(QStringLiteral("TX_color"));
     texto_->setFixedWidth(texto_->fontMetrics().averageCharWidth() * 14);
     texto_->installEventFilter(this);

@@ -3,6 +3,7 @@
 #include "qt/dialogo_fichero_qt.h"
 
 #include "base/rutas.h"
+#include "qt/caja_linea.h"
 #include "qt/texto_qt.h"
 #include "qt/textos.h"
 #include "qt/unidades.h"
@@ -20,6 +21,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollBar>
 #include <QToolButton>
 #include <QUrl>
 
@@ -97,6 +99,8 @@ VentanaFichero::VentanaFichero(
     setDirectory(peticion.carpeta.empty() ? QDir::homePath() : a_qstring(peticion.carpeta));
     if (!peticion.nombre.empty()) selectFile(a_qstring(peticion.nombre));
     setSidebarUrls({QUrl::fromLocalFile(QDir::homePath())});
+    for (auto* const caja : findChildren<QLineEdit*>()) pon_menu_en_espanol(*caja);
+    for (auto* const barra : findChildren<QScrollBar*>()) barra->setContextMenuPolicy(Qt::NoContextMenu);
     pon_textos();
     prepara_listas();
     conecta();

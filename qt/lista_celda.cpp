@@ -4,6 +4,7 @@
 
 #include "qt/accesible.h"
 #include "qt/casilla.h"
+#include "qt/medidas_rejilla.h"
 #include "qt/teclas_qt.h"
 #include "qt/vista_rejilla.h"
 
@@ -25,6 +26,7 @@ ListaCelda::ListaCelda(VistaRejilla& vista)
     setFocusPolicy(Qt::ClickFocus);
     setInsertPolicy(QComboBox::NoInsert);
     view()->installEventFilter(this);
+    sin_menu_en_barras(*view());
     connect(this, &QComboBox::activated, this, [this] {
         if (!tecleando_) mandos().clic_lista();
     });
@@ -39,6 +41,8 @@ void ListaCelda::mueve(const QRect& celda) {
     // The list keeps its own height, centred on the cell.
     const int alto = std::max(celda.height(), minimumSizeHint().height());
     setGeometry(celda.x(), celda.center().y() - alto / 2, celda.width(), alto);
+    for (QWidget* w : {static_cast<QWidget*>(this), static_cast<QWidget*>(label1_)})
+        recorta(*w, vista_.vista_del_editor());
 }
 
 void ListaCelda::muestra(const QRect& celda, const QStringList& entradas, int elegida) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Measures that every window of a grid shares: the height of its rows, places of cells in pixels, the ranges
-// of its scroll bars. Main names: alto_de_fila, en_px, pon_barras_de.
+// Measures that every window of a grid shares: the height of its rows, places of cells in pixels, its scroll
+// bars, what is seen of an editor over a cell. Main names: alto_de_fila, en_px, pon_barras_de, recorta.
 #pragma once
 
 #include "core/geometria.h"
@@ -42,6 +42,24 @@ inline void pon_barras_de(QAbstractScrollArea& area, const Tablero& t, const Uni
     h->setRange(0, std::max(0, sobra));
     h->setPageStep(area.viewport()->width());
     h->setValue(u.px_x(t.desplazamiento()));
+}
+
+/// Bars of a grid have no menu: Qt's would be in the program's language.
+inline void sin_menu_en_barras(QAbstractScrollArea& area) {
+    for (QScrollBar* barra : {area.verticalScrollBar(), area.horizontalScrollBar()})
+        barra->setContextMenuPolicy(Qt::NoContextMenu);
+}
+
+/// What lies over a cell is seen only as far as the cell is: `visto` is that part, in the coordinates of the
+/// parent. Rows are scrolled whole, so it is cut at the sides; nothing is seen of a cell that is not.
+inline void recorta(QWidget& encima, const QRect& visto) {
+    const QRect entero = encima.geometry();
+    const QRect queda(visto.left(), entero.top(), visto.width(), entero.height());
+    if (visto.left() <= entero.left() && visto.right() >= entero.right())
+        encima.clearMask();
+    else // an empty region would mean no mask
+        encima.setMask(
+            queda.isEmpty() ? QRegion(-1, -1, 1, 1) : QRegion(queda.translated(-entero.topLeft())));
 }
 
 } // namespace Qlt4_Tabla

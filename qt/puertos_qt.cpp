@@ -159,7 +159,7 @@ void PuertosQt::enfoca_tablero() {
 // --- CajaTexto ---
 
 void PuertosQt::muestra(const Rectangulo& celda, std::string_view texto) {
-    if (casilla_) casilla_->muestra(px(celda), a_qstring(texto));
+    if (casilla_) casilla_->muestra(px(celda), texto);
 }
 
 // Hiding a widget that has the focus gives it to the next one of the form; the grid takes it before.
@@ -173,10 +173,10 @@ void PuertosQt::mueve(const Rectangulo& celda) {
     if (casilla_) casilla_->mueve(px(celda));
 }
 
-std::string PuertosQt::texto() const { return casilla_ ? casilla_->text().toStdString() : std::string(); }
+std::string PuertosQt::texto() const { return casilla_ ? casilla_->dado() : std::string(); }
 
 void PuertosQt::pon_texto(std::string_view texto) {
-    if (casilla_) casilla_->setText(a_qstring(texto));
+    if (casilla_) casilla_->pon(texto);
 }
 
 int PuertosQt::cursor() const {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Texts of this folder: the buttons of message boxes, the colour picker, and what a user hears from an
+// Texts of this folder: the buttons of message boxes, the menu of text boxes, the colour picker, and what a user hears from an
 // assistive program: the names of the table, its cells and the editors over them ("X, fila 3, 12.500,
 // bloqueada").
 #pragma once
@@ -13,6 +13,20 @@ namespace Qlt4_Tabla::textos {
 inline constexpr std::string_view aceptar = "Aceptar";
 inline constexpr std::string_view si = "&Sí";
 inline constexpr std::string_view no = "&No";
+
+// The menu of a text box.
+namespace caja {
+
+inline constexpr std::string_view deshacer = "Deshacer";
+inline constexpr std::string_view rehacer = "Rehacer";
+inline constexpr std::string_view cortar = "Cortar";
+inline constexpr std::string_view copiar = "Copiar";
+inline constexpr std::string_view pegar = "Pegar";
+inline constexpr std::string_view eliminar = "Eliminar";
+inline constexpr std::string_view seleccionar_todo = "Seleccionar todo";
+inline constexpr std::string_view mayusculas = "Mayús+"; // in a shortcut
+
+} // namespace caja
 
 // The colour picker. The missing blank of the second one and the small letters are intended.
 inline constexpr std::string_view color_elegido = "Color elegido:";

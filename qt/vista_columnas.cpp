@@ -38,14 +38,13 @@ Qt::Alignment alineacion(const Tablero& t, int col) {
 // --- The text box ---
 
 CasillaEditor::CasillaEditor(RejillaColumnas& modelo, VistaColumnas& vista)
-    : QLineEdit(vista.viewport()), modelo_(modelo), vista_(vista) {
+    : CajaLinea(vista.viewport()), modelo_(modelo), vista_(vista) {
     setObjectName(QStringLiteral("Casilla"));
     setFrame(false);
     setFocusPolicy(Qt::ClickFocus);
     setTextMargins(MARGEN_TEXTO_PX - MARCO_PX - 2, 0, 0, 0);
     hide();
-    connect(this, &QLineEdit::textChanged, this,
-        [this](const QString& texto) { modelo_.escribe_casilla(texto.toStdString()); });
+    connect(this, &QLineEdit::textChanged, this, [this] { modelo_.escribe_casilla(dado()); });
 }
 
 void CasillaEditor::abre() {
@@ -54,7 +53,7 @@ void CasillaEditor::abre() {
     const int longitud = c.longitud;
     setAlignment(alineacion(modelo_.tablero(), c.col));
     setAccessibleName(a_qstring(modelo_.tablero().TextMatrix(0, c.col)).trimmed());
-    setText(a_qstring(c.texto));
+    pon(c.texto);
     if (longitud > 0)
         setSelection(inicio, static_cast<int>(text().size()));
     else
@@ -66,8 +65,11 @@ void CasillaEditor::abre() {
 // The grid takes the focus before the box goes; the next widget of the form would have it otherwise.
 void CasillaEditor::sigue() {
     const CasillaColumnas& c = modelo_.casilla();
-    if (c.abierta)
-        setGeometry(en_px(c.sitio, vista_.unidades()).adjusted(MARCO_PX, MARCO_PX, -MARCO_PX, -MARCO_PX));
+    if (c.abierta) {
+        const Unidades u = vista_.unidades();
+        setGeometry(en_px(c.sitio, u).adjusted(MARCO_PX, MARCO_PX, -MARCO_PX, -MARCO_PX));
+        recorta(*this, en_px(parte_visible(modelo_.tablero(), c.fila, c.col), u));
+    }
     if (c.abierta && isHidden()) {
         abre();
     } else if (!c.abierta && !isHidden()) {
@@ -76,6 +78,8 @@ void CasillaEditor::sigue() {
     }
 }
 
+int CasillaEditor::tecla(int KeyAscii) { return modelo_.tecla_casilla(KeyAscii); }
+
 bool CasillaEditor::event(QEvent* e) {
     // While it is open the box owns its keys, those that somebody binds as shortcuts too.
     if (e->type() == QEvent::ShortcutOverride &&
@@ -83,36 +87,24 @@ bool CasillaEditor::event(QEvent* e) {
         e->accept();
         return true;
     }
-    return QLineEdit::event(e);
+    return CajaLinea::event(e);
 }
 
 void CasillaEditor::keyPressEvent(QKeyEvent* e) {
     if (es_decimal_del_teclado_numerico(*e)) {
-        if (modelo_.tecla_casilla('.') != 0) insert(QStringLiteral("."));
+        if (tecla('.') != 0) insert(QStringLiteral("."));
         return;
     }
     for (const int codigo : codigos_tecleados(*e)) {
-        if (modelo_.tecla_casilla(codigo) == 0) return vista_.usa();
+        if (tecla(codigo) == 0) return vista_.usa();
     }
-    QLineEdit::keyPressEvent(e);
+    CajaLinea::keyPressEvent(e);
     e->accept(); // a key that the box could not use is not a key of the grid
-}
-
-void CasillaEditor::inputMethodEvent(QInputMethodEvent* e) {
-    QString pasa;
-    for (const int codigo : codigos_de_texto(e->commitString())) {
-        const int resto = modelo_.tecla_casilla(codigo);
-        if (resto != 0) pasa += texto_de_codigo(resto);
-    }
-    QInputMethodEvent filtrado(e->preeditString(), e->attributes());
-    filtrado.setCommitString(pasa, e->replacementStart(), e->replacementLength());
-    QLineEdit::inputMethodEvent(&filtrado);
-    e->accept();
 }
 
 // A menu or another window takes the focus for a while only.
 void CasillaEditor::focusOutEvent(QFocusEvent* e) {
-    QLineEdit::focusOutEvent(e);
+    CajaLinea::focusOutEvent(e);
     if (motivo_de(e->reason()) != MotivoFoco::Otro) return;
     modelo_.casilla_pierde_foco();
     vista_.usa();
@@ -133,6 +125,7 @@ VistaColumnas::VistaColumnas(RejillaColumnas& modelo, QWidget* padre)
     setAttribute(Qt::WA_InputMethodEnabled);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     setFrameShape(QFrame::StyledPanel);
+    sin_menu_en_barras(*this);
     horizontalScrollBar()->setSingleStep(PASO_HORIZONTAL_PX);
 }
 

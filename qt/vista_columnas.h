@@ -5,16 +5,16 @@
 #pragma once
 
 #include "platform/dialogo_columnas.h"
+#include "qt/caja_linea.h"
 #include "qt/unidades.h"
 
 #include <QAbstractScrollArea>
-#include <QLineEdit>
 
 namespace Qlt4_Tabla {
 
 class VistaColumnas;
 
-class CasillaEditor final : public QLineEdit {
+class CasillaEditor final : public CajaLinea {
     Q_OBJECT
 
 public:
@@ -24,9 +24,9 @@ public:
     void sigue();
 
 protected:
+    [[nodiscard]] int tecla(int KeyAscii) override;
     bool event(QEvent* e) override;
     void keyPressEvent(QKeyEvent* e) override;
-    void inputMethodEvent(QInputMethodEvent* e) override;
     void focusOutEvent(QFocusEvent* e) override;
     bool focusNextPrevChild(bool siguiente) override;
 

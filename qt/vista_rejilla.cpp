@@ -41,6 +41,7 @@ VistaRejilla::VistaRejilla(Tabla0& tabla, QWidget* padre) : QAbstractScrollArea(
     viewport()->setMouseTracking(true);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     setFrameShape(QFrame::StyledPanel);
+    sin_menu_en_barras(*this);
     verticalScrollBar()->setObjectName(QStringLiteral("filas"));
     horizontalScrollBar()->setObjectName(QStringLiteral("columnas"));
     horizontalScrollBar()->setSingleStep(PASO_HORIZONTAL_PX);
@@ -80,6 +81,11 @@ bool VistaRejilla::eventFilter(QObject* objeto, QEvent* e) {
 
 QRect VistaRejilla::rect_celda(int fila, int col) const {
     return en_px(rectangulo_celda(tablero(), fila, col), unidades());
+}
+
+QRect VistaRejilla::vista_del_editor() const {
+    const EditorCelda& editor = tabla_.mandos().editor();
+    return en_px(parte_visible(tablero(), editor.fila(), editor.col()), unidades());
 }
 
 // Whether a row looks the same wherever it stands, so that its pixels can be moved.

@@ -29,6 +29,9 @@ public:
     /// The place of a cell in viewport pixels, whether seen or not.
     [[nodiscard]] QRect rect_celda(int fila, int col) const;
 
+    /// What is seen of the cell under the open editor, in viewport pixels; empty: nothing.
+    [[nodiscard]] QRect vista_del_editor() const;
+
     /// Where the mouse was at its last event over the grid, on the screen.
     [[nodiscard]] QPoint sitio_del_raton() const { return raton_; }
 

@@ -59,6 +59,8 @@ public:
 
     [[nodiscard]] VistaColumnas* rejilla() const { return hijo<VistaColumnas>("msfEditor"); }
 
+    [[nodiscard]] const RejillaColumnas& modelo() const { return rejilla()->modelo(); }
+
     [[nodiscard]] QLineEdit* caja() const { return hijo<QLineEdit>("Casilla"); }
 
     [[nodiscard]] QString dice(int fila, int col) const {
@@ -116,8 +118,6 @@ public:
     int vistos = 0;
 
 private:
-    [[nodiscard]] const RejillaColumnas& modelo() const { return rejilla()->modelo(); }
-
     // A menu may come before the editor.
     void espera() {
         if (qobject_cast<VentanaColumnas*>(QApplication::activeModalWidget()) != nullptr) return atiende();

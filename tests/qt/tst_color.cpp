@@ -13,6 +13,7 @@
 #include "tests/qt/mesa_qt.h"
 
 #include <QAccessible>
+#include <QClipboard>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -104,6 +105,7 @@ private slots:
     void Intro_acepta_tambien_desde_otro_boton();
     void Escape_y_cerrar_cancelan();
     void lo_tecleado_va_a_la_caja();
+    void lo_pegado_en_la_caja_es_una_linea();
     void un_numero_de_mas_se_vuelve_siete();
     void negro_no_se_acepta();
     void plegado_tiene_su_alto_y_una_tira();
@@ -255,6 +257,18 @@ void TstColor::lo_tecleado_va_a_la_caja() {
         QVERIFY(m.hijo<QLineEdit>("TX_color")->hasFocus());
         QCOMPARE(m.selector.C_color_elegido_Vb(), 0xFF0000);
         QVERIFY(m.tira(NORMAL)->tiene_marcada());
+    });
+}
+
+void TstColor::lo_pegado_en_la_caja_es_una_linea() {
+    MesaColor m;
+    QApplication::clipboard()->setText(QStringLiteral("12\r\n13\r\n")); // two cells
+    m.ejecuta([&] {
+        auto* caja = m.hijo<QLineEdit>("TX_color");
+        caja->setFocus();
+        caja->selectAll();
+        manos::pulsa(*m.dialogo, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(m.texto(), QStringLiteral("12"));
     });
 }
 
