@@ -65,11 +65,8 @@ void CasillaEditor::abre() {
 // The grid takes the focus before the box goes; the next widget of the form would have it otherwise.
 void CasillaEditor::sigue() {
     const CasillaColumnas& c = modelo_.casilla();
-    if (c.abierta) {
-        const Unidades u = vista_.unidades();
-        setGeometry(en_px(c.sitio, u).adjusted(MARCO_PX, MARCO_PX, -MARCO_PX, -MARCO_PX));
-        recorta(*this, en_px(parte_visible(modelo_.tablero(), c.fila, c.col), u));
-    }
+    if (c.abierta)
+        setGeometry(en_px(c.sitio, vista_.unidades()).adjusted(MARCO_PX, MARCO_PX, -MARCO_PX, -MARCO_PX));
     if (c.abierta && isHidden()) {
         abre();
     } else if (!c.abierta && !isHidden()) {

@@ -4,6 +4,7 @@
 
 #include <QLayout>
 #include <QProgressBar>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QSignalSpy>
 
@@ -341,7 +342,15 @@ void TstEtiquetas::lo_que_tarda_una_respuesta_no_cuenta() {
 }
 
 void TstEtiquetas::los_botones_de_un_mensaje_no_llevan_dibujo() {
+    class ConDibujos final : public QProxyStyle {
+    public:
+        int styleHint(
+            StyleHint que, const QStyleOption* o, const QWidget* w, QStyleHintReturn* r) const override {
+            return que == SH_DialogButtonBox_ButtonsHaveIcons ? 1 : QProxyStyle::styleHint(que, o, w, r);
+        }
+    };
     Escucha e(nullptr);
+    QApplication::setStyle(new ConDibujos); // as some desktops have it
     int botones = 0;
     int dibujos = 0;
     manos::Mensajero mensajero([&](const QString&) {
@@ -352,6 +361,7 @@ void TstEtiquetas::los_botones_de_un_mensaje_no_llevan_dibujo() {
     });
     e.mensajes->mensaje("¿?", EstiloMensaje::CriticoSiNo, {});
     e.mensajes->mensaje("¡!", EstiloMensaje::Critico, {});
+    QApplication::setStyle(QStringLiteral("fusion"));
     QCOMPARE(botones, 3);
     QCOMPARE(dibujos, 0);
 }
