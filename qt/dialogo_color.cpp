@@ -137,7 +137,6 @@ QWidget* VentanaColor::crea_fila_capa() {
 QPushButton* VentanaColor::crea_boton(const char* nombre, std::string_view texto, BotonColor boton) {
     auto* b = new QPushButton(a_qstring(texto), this);
     b->setObjectName(QString::fromLatin1(nombre));
-    b->setAutoDefault(false); // Enter accepts, whoever has the focus
     connect(b, &QPushButton::clicked, this, [this, boton] { usa(boton); });
     return b;
 }
@@ -160,6 +159,7 @@ QWidget* VentanaColor::crea_botones() {
 void VentanaColor::usa(BotonColor boton) {
     modelo_.boton(boton);
     refresca();
+    if (boton == BotonColor::Otros) enfoca_marcada(); // its own button is of no more use
 }
 
 void VentanaColor::refresca() {

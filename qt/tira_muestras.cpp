@@ -124,7 +124,7 @@ void TiraMuestras::mouseReleaseEvent(QMouseEvent* e) {
 void TiraMuestras::keyPressEvent(QKeyEvent* e) {
     if (camina_con(modelo_, *e))
         emit usada();
-    else if (!e->text().isEmpty() && e->text().at(0).isPrint())
+    else if (!e->text().isEmpty() && e->text().at(0).isPrint() && !e->text().at(0).isSpace())
         emit tecleada(e);
     else
         QWidget::keyPressEvent(e);

@@ -27,7 +27,7 @@ public:
 signals:
     /// The model was told something.
     void usada();
-    /// A key that means nothing to swatches: the box may want it.
+    /// A key that means nothing to swatches: the box may want it. A blank is nothing to begin with.
     void tecleada(QKeyEvent* e);
 
 protected:

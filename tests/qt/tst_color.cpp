@@ -102,7 +102,10 @@ private slots:
     void las_flechas_recorren_las_muestras();
     void arriba_y_abajo_tambien_desde_la_caja();
     void Intro_acepta();
-    void Intro_acepta_tambien_desde_otro_boton();
+    void Intro_acepta_tambien_desde_la_caja();
+    void Intro_en_un_boton_lo_pulsa();
+    void el_espacio_no_toca_lo_elegido();
+    void desplegado_por_teclado_sigue_en_la_muestra();
     void Escape_y_cerrar_cancelan();
     void lo_tecleado_va_a_la_caja();
     void lo_pegado_en_la_caja_es_una_linea();
@@ -225,14 +228,59 @@ void TstColor::Intro_acepta() {
     QCOMPARE(m.selector.C_color_elegido_Vb(), 0x00FFFF);
 }
 
-void TstColor::Intro_acepta_tambien_desde_otro_boton() {
+void TstColor::Intro_acepta_tambien_desde_la_caja() {
     MesaColor m;
-    m.selector.C_color_elegido_Vb(0x0000FF);
     m.ejecuta([&] {
-        m.hijo<QPushButton>("BT_cancelar")->setFocus();
+        manos::teclea(*m.dialogo, QStringLiteral("3"));
+        QVERIFY(m.hijo<QLineEdit>("TX_color")->hasFocus());
         m.pulsa(Qt::Key_Return);
     });
     QVERIFY(m.selector.aceptado());
+    QCOMPARE(m.selector.C_color_elegido_Vb(), 0x00FF00);
+}
+
+void TstColor::Intro_en_un_boton_lo_pulsa() {
+    MesaColor m;
+    m.selector.C_color_elegido_Vb(0x0000FF);
+    m.selector.C_añadir_BT_por_Capa(true);
+    m.selector.C_Por_capa(0x00FF00);
+    m.ejecuta([&] {
+        m.hijo<QPushButton>("BT_cancelar")->setFocus(Qt::TabFocusReason);
+        m.pulsa(Qt::Key_Return);
+    });
+    QVERIFY(!m.selector.aceptado());
+    m.ejecuta([&] {
+        m.hijo<QPushButton>("BT_por_capa")->setFocus(Qt::TabFocusReason);
+        m.pulsa(Qt::Key_Enter);
+        QCOMPARE(m.selector.C_color_elegido_Vb(), 0x00FF00);
+        m.tira(NORMAL)->setFocus(Qt::TabFocusReason); // from here Enter accepts again
+        m.pulsa(Qt::Key_Return);
+    });
+    QVERIFY(m.selector.aceptado());
+}
+
+void TstColor::el_espacio_no_toca_lo_elegido() {
+    MesaColor m;
+    m.selector.C_color_elegido_Vb(0x0000FF);
+    m.ejecuta([&] {
+        manos::teclea(*m.dialogo, QStringLiteral(" "));
+        QCOMPARE(m.texto(), QStringLiteral("rojo"));
+        QCOMPARE(m.selector.C_color_elegido_Vb(), 0x0000FF);
+        QVERIFY(m.tira(NORMAL)->hasFocus());
+    });
+}
+
+void TstColor::desplegado_por_teclado_sigue_en_la_muestra() {
+    MesaColor m;
+    m.selector.C_color_elegido_Vb(0x000098); // 14
+    m.ejecuta([&] {
+        m.hijo<QPushButton>("BT_otros")->setFocus(Qt::TabFocusReason);
+        m.pulsa(Qt::Key_Return);
+        QVERIFY(m.selector.visto().desplegado);
+        QVERIFY(m.tira(ESPECIAL)->hasFocus());
+        m.pulsa(Qt::Key_Up);
+        QCOMPARE(m.texto(), QStringLiteral("16"));
+    });
 }
 
 void TstColor::Escape_y_cerrar_cancelan() {
