@@ -4,25 +4,31 @@
 
 #include "base/rutas.h"
 #include "qt/caja_linea.h"
+#include "qt/sitio_ventana.h"
 #include "qt/texto_qt.h"
 #include "qt/textos.h"
 #include "qt/unidades.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
+#include <QDateTime>
 #include <QDir>
 #include <QFileIconProvider>
 #include <QFileInfo>
 #include <QFileSystemModel>
+#include <QHeaderView>
 #include <QIdentityProxyModel>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QLocale>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
 #include <QToolButton>
+#include <QTreeView>
 #include <QUrl>
 
 #include <algorithm>
@@ -33,6 +39,11 @@
 namespace Qlt4_Tabla {
 
 namespace {
+
+// Of the window's first size, in characters.
+constexpr int NOMBRE_USUAL = 26;
+constexpr int AIRE_COLUMNAS = 20; // beside the texts of the list
+constexpr int LADO = 20; // the list of places
 
 // The headers of the list in Spanish.
 class ModeloConTitulos final : public QIdentityProxyModel {
@@ -81,6 +92,21 @@ QPoint en_pantalla(QPoint p, QSize talla) {
     return {x, y};
 }
 
+// A path as it is typed: "~" in front is the user's own folder.
+QString sin_tilde(const QString& ruta) {
+    const bool la_suya = ruta == QLatin1String("~") || ruta.startsWith(QLatin1String("~/"));
+    return la_suya ? QDir::homePath() + ruta.mid(1) : ruta;
+}
+
+// Entries of the list of folders that stand for no folder: Qt names them in the program's language.
+void nombra_entrada(QAbstractItemModel& modelo, const QModelIndex& entrada) {
+    constexpr int PAPEL_URL = Qt::UserRole + 1;
+    const QUrl url = entrada.data(PAPEL_URL).toUrl();
+    if (!url.path().isEmpty()) return;
+    const QString texto = a_qstring(url.isValid() ? textos::fichero::equipo : textos::fichero::recientes);
+    if (entrada.data().toString() != texto) modelo.setData(entrada, texto);
+}
+
 } // namespace
 
 VentanaFichero::VentanaFichero(
@@ -104,7 +130,11 @@ VentanaFichero::VentanaFichero(
     pon_textos();
     prepara_listas();
     conecta();
-    resize(sizeHint().expandedTo({640, 400}));
+    resize(cabe_en_pantalla(*this, talla_inicial()));
+}
+
+VentanaFichero::~VentanaFichero() {
+    if (detalle_ != nullptr) detalle_->header()->restoreState(cabecera_de_otros_);
 }
 
 QString VentanaFichero::texto_de_aceptar() const {
@@ -124,6 +154,14 @@ void VentanaFichero::conecta() {
             if (modelo != nullptr && filtro.endsWith(QStringLiteral("(*.*)"))) modelo->setNameFilters({});
         },
         Qt::QueuedConnection);
+    auto* const carpetas = findChild<QComboBox*>(QStringLiteral("lookInCombo"));
+    if (carpetas == nullptr) return;
+    QAbstractItemModel* const modelo = carpetas->model();
+    connect(modelo, &QAbstractItemModel::dataChanged, this,
+        [modelo](const QModelIndex& desde, const QModelIndex& hasta) {
+            for (int fila = desde.row(); fila <= hasta.row(); ++fila)
+                nombra_entrada(*modelo, modelo->index(fila, 0));
+        });
 }
 
 void VentanaFichero::pon_textos() {
@@ -153,6 +191,26 @@ void VentanaFichero::prepara_listas() {
         lista->installEventFilter(this);
     }
     if (auto* const boton = findChild<QToolButton*>(QStringLiteral("newFolderButton"))) boton->hide();
+    detalle_ = findChild<QTreeView*>(QStringLiteral("treeView"));
+    if (detalle_ == nullptr) return;
+    QHeaderView& cabecera = *detalle_->header();
+    cabecera_de_otros_ = cabecera.saveState();
+    cabecera.setStretchLastSection(false);
+    cabecera.setSectionResizeMode(QHeaderView::ResizeToContents);
+    cabecera.setSectionResizeMode(0, QHeaderView::Stretch);
+}
+
+// Every column is seen whole, though the files are read only later: room for usual ones.
+QSize VentanaFichero::talla_inicial() const {
+    const QFontMetrics letra = fontMetrics();
+    const QString fecha =
+        QLocale().toString(QDateTime(QDate(2000, 12, 28), QTime(20, 58)), QLocale::ShortFormat);
+    const QString muestra = QString(NOMBRE_USUAL, QLatin1Char('n')) + QStringLiteral("1023,99 KiB") +
+        a_qstring(textos::fichero::archivo) + QStringLiteral(" tb0");
+    const int fechas = std::max(letra.horizontalAdvance(fecha),
+        letra.horizontalAdvance(a_qstring(textos::fichero::columnas_ficheros.back())));
+    const int aire = (AIRE_COLUMNAS + LADO) * letra.averageCharWidth();
+    return sizeHint().expandedTo({letra.horizontalAdvance(muestra) + fechas + aire, 24 * letra.height()});
 }
 
 bool VentanaFichero::eventFilter(QObject* de, QEvent* e) {
@@ -168,8 +226,18 @@ bool VentanaFichero::eventFilter(QObject* de, QEvent* e) {
 // What stands in the box, as a whole path.
 QString VentanaFichero::escrito() const {
     const auto* const caja = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    const QString nombre = caja != nullptr ? caja->text() : QString();
+    const QString nombre = caja != nullptr ? sin_tilde(caja->text()) : QString();
     return nombre.isEmpty() ? nombre : QDir::cleanPath(directory().absoluteFilePath(nombre));
+}
+
+void VentanaFichero::avisa(std::string_view antes, const QString& nombre, std::string_view despues) {
+    QMessageBox caja(this);
+    caja.setTextFormat(Qt::PlainText);
+    caja.setIcon(QMessageBox::Warning);
+    caja.setWindowTitle(windowTitle());
+    caja.setText(a_qstring(antes) + nombre + a_qstring(despues));
+    caja.addButton(a_qstring(textos::aceptar), QMessageBox::AcceptRole);
+    caja.exec();
 }
 
 bool VentanaFichero::pregunta_si_reemplaza(const QString& nombre) {
@@ -195,21 +263,15 @@ void VentanaFichero::accept() {
         if (auto* const caja = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))) caja->clear();
         return;
     }
+    if (const QString carpeta = QFileInfo(ruta).path(); !QFileInfo(carpeta).isDir())
+        return avisa(textos::fichero::no_hay_carpeta_antes, QDir::toNativeSeparators(carpeta),
+            textos::fichero::no_hay_carpeta_despues);
     const bool abrir = modo_ == ModoFichero::Abrir;
     if (!(abrir && QFileInfo::exists(ruta)))
         ruta = QString::fromStdString(con_extension(ruta.toStdString(), extension_));
     const QString nombre = QFileInfo(ruta).fileName();
-    if (abrir && !QFileInfo::exists(ruta)) {
-        QMessageBox caja(this);
-        caja.setTextFormat(Qt::PlainText);
-        caja.setIcon(QMessageBox::Warning);
-        caja.setWindowTitle(windowTitle());
-        caja.setText(a_qstring(textos::fichero::no_existe_antes) + nombre +
-            a_qstring(textos::fichero::no_existe_despues));
-        caja.addButton(a_qstring(textos::aceptar), QMessageBox::AcceptRole);
-        caja.exec();
-        return;
-    }
+    if (abrir && !QFileInfo::exists(ruta))
+        return avisa(textos::fichero::no_existe_antes, nombre, textos::fichero::no_existe_despues);
     if (!abrir && QFileInfo::exists(ruta) && !pregunta_si_reemplaza(nombre)) return;
     elegido_ = QDir::toNativeSeparators(ruta).toStdString();
     QDialog::accept(); // QFileDialog would check and ask again

@@ -6,12 +6,15 @@
 
 #include "platform/dialogo_fichero.h"
 
+#include <QByteArray>
 #include <QFileDialog>
 #include <QString>
 
 #include <string>
+#include <string_view>
 
 class QAbstractFileIconProvider;
+class QTreeView;
 class QWidget;
 
 namespace Qlt4_Tabla {
@@ -23,6 +26,10 @@ class VentanaFichero final : public QFileDialog {
 public:
     /// `iconos` outlives it.
     VentanaFichero(const PeticionFichero& peticion, QAbstractFileIconProvider& iconos, QWidget* padre);
+    /// Qt keeps the columns of the list for the dialogs of every program: they stay as they were.
+    ~VentanaFichero() override;
+    VentanaFichero(const VentanaFichero&) = delete;
+    VentanaFichero& operator=(const VentanaFichero&) = delete;
 
     /// The file chosen, after `exec` gave Accepted.
     [[nodiscard]] std::string elegido() const { return elegido_; }
@@ -38,9 +45,13 @@ private:
     void pon_textos();
     void conecta();
     void prepara_listas();
+    [[nodiscard]] QSize talla_inicial() const;
     [[nodiscard]] QString escrito() const;
+    void avisa(std::string_view antes, const QString& nombre, std::string_view despues);
     [[nodiscard]] bool pregunta_si_reemplaza(const QString& nombre);
 
+    QTreeView* detalle_ = nullptr;
+    QByteArray cabecera_de_otros_;
     ModoFichero modo_;
     std::string extension_;
     std::string elegido_;

@@ -91,6 +91,12 @@ inline constexpr std::string_view ya_existe_antes = "El archivo «";
 inline constexpr std::string_view ya_existe_despues = "» ya existe. ¿Quiere reemplazarlo?";
 inline constexpr std::string_view no_existe_antes = "No hay ningún archivo «";
 inline constexpr std::string_view no_existe_despues = "» en esta carpeta.";
+// Around a folder's name.
+inline constexpr std::string_view no_hay_carpeta_antes = "No existe la carpeta «";
+inline constexpr std::string_view no_hay_carpeta_despues = "».";
+// In the list of folders: all drives, and the folders visited before.
+inline constexpr std::string_view equipo = "Equipo";
+inline constexpr std::string_view recientes = "Recientes";
 
 } // namespace fichero
 

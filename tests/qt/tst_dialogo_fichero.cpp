@@ -9,6 +9,7 @@
 #include <QDialogButtonBox>
 #include <QFile>
 #include <QFileSystemModel>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -17,6 +18,7 @@
 #include <QTimer>
 #include <QTreeView>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <string>
@@ -40,6 +42,11 @@ private slots:
     void abrir_lo_que_no_hay_se_dice();
     void reemplazar_se_pregunta_con_el_nombre_entero();
     void el_nombre_de_una_carpeta_entra_en_ella();
+    void una_carpeta_que_no_hay_se_dice_data();
+    void una_carpeta_que_no_hay_se_dice();
+    void la_tilde_es_la_carpeta_del_usuario();
+    void las_columnas_caben_al_abrirse();
+    void la_lista_de_carpetas_habla_castellano();
     void todos_son_todos();
     void el_sitio_se_guarda();
     void fuera_de_la_pantalla_se_ve_igual();
@@ -52,7 +59,7 @@ private:
 
     PeticionFichero peticion(ModoFichero modo) const {
         return {modo, "Abrir Tabla de Puntos...", "Tabla (*.tb0)|*.tb0|Todos (*.*)|*.*",
-            carpeta_->path().toStdString(), "propuesto.tb0", "tb0", 1500, 750};
+            carpeta_->path().toStdString(), "propuesto.tb0", "tb0", 600, 750};
     }
 
     /// Shows the dialog, does `hace` in it, and gives the answer.
@@ -76,6 +83,10 @@ private:
         caja(v).selectAll();
         QTest::keyClicks(&caja(v), nombre);
         QTest::keyClick(&caja(v), Qt::Key_Return);
+    }
+
+    static QModelIndex fila_unica(const QTreeView& lista, int col) {
+        return lista.model()->index(0, col, lista.rootIndex());
     }
 
     /// Answers the message box that comes next with its button of that text; keeps its text.
@@ -182,6 +193,70 @@ void TstDialogoFichero::el_nombre_de_una_carpeta_entra_en_ella() {
     });
 }
 
+void TstDialogoFichero::una_carpeta_que_no_hay_se_dice_data() {
+    QTest::addColumn<int>("modo");
+    QTest::newRow("open") << static_cast<int>(ModoFichero::Abrir);
+    QTest::newRow("save") << static_cast<int>(ModoFichero::Guardar);
+}
+
+void TstDialogoFichero::una_carpeta_que_no_hay_se_dice() {
+    QFETCH(int, modo);
+    const auto r = muestra(peticion(static_cast<ModoFichero>(modo)), [&](VentanaFichero& v) {
+        responde(QStringLiteral("Aceptar"));
+        escribe(v, QStringLiteral("perdida/a.tb0"));
+        QVERIFY(v.isVisible());
+        QCOMPARE(caja(v).text(), QStringLiteral("perdida/a.tb0"));
+    });
+    const QString perdida = QFileInfo(carpeta_->filePath(QStringLiteral("perdida"))).absoluteFilePath();
+    QCOMPARE(mensaje_, QStringLiteral("No existe la carpeta «%1».").arg(perdida));
+    QCOMPARE(r.ruta, std::string());
+}
+
+void TstDialogoFichero::la_tilde_es_la_carpeta_del_usuario() {
+    const QByteArray antes = qgetenv("HOME");
+    qputenv("HOME", carpeta_->path().toLocal8Bit());
+    PeticionFichero p = peticion(ModoFichero::Guardar);
+    p.carpeta = QDir::tempPath().toStdString();
+    const auto r = muestra(p, [&](VentanaFichero& v) { escribe(v, QStringLiteral("~/con tilde")); });
+    muestra(p, [&](VentanaFichero& v) {
+        escribe(v, QStringLiteral("~"));
+        QCOMPARE(v.directory().absolutePath(), QDir(carpeta_->path()).absolutePath());
+    });
+    qputenv("HOME", antes);
+    QCOMPARE(QString::fromStdString(r.ruta), QDir(carpeta_->path()).absoluteFilePath("con tilde.tb0"));
+}
+
+void TstDialogoFichero::las_columnas_caben_al_abrirse() {
+    muestra(peticion(ModoFichero::Abrir), [&](VentanaFichero& v) {
+        const auto& lista = *v.findChild<QTreeView*>(QStringLiteral("treeView"));
+        QTRY_COMPARE(lista.model()->rowCount(lista.rootIndex()), 1); // hay.tb0
+        QTRY_VERIFY(lista.columnWidth(1) >= lista.sizeHintForIndex(fila_unica(lista, 1)).width());
+        for (int col = 0; col < 4; ++col) {
+            const int hace_falta = std::max(
+                lista.sizeHintForIndex(fila_unica(lista, col)).width(), lista.header()->sectionSizeHint(col));
+            QVERIFY2(lista.columnWidth(col) >= hace_falta, qPrintable(QString::number(col)));
+        }
+        QVERIFY(lista.header()->length() <= lista.viewport()->width());
+        QVERIFY(lista.columnWidth(0) >= 20 * lista.fontMetrics().averageCharWidth());
+    });
+}
+
+void TstDialogoFichero::la_lista_de_carpetas_habla_castellano() {
+    QVERIFY(QDir(carpeta_->path()).mkdir(QStringLiteral("dentro")));
+    muestra(peticion(ModoFichero::Abrir), [&](VentanaFichero& v) {
+        escribe(v, QStringLiteral("dentro")); // so there is a folder visited before
+        auto* const carpetas = v.findChild<QComboBox*>(QStringLiteral("lookInCombo"));
+        carpetas->showPopup();
+        QStringList entradas;
+        for (int i = 0; i < carpetas->count(); ++i) entradas << carpetas->itemText(i);
+        carpetas->hidePopup();
+        QVERIFY2(entradas.contains(QStringLiteral("Equipo")), qPrintable(entradas.join(u'|')));
+        QVERIFY2(entradas.contains(QStringLiteral("Recientes")), qPrintable(entradas.join(u'|')));
+        QVERIFY(!entradas.contains(QStringLiteral("Computer")));
+        QVERIFY(!entradas.contains(QStringLiteral("Recent Places")));
+    });
+}
+
 void TstDialogoFichero::todos_son_todos() {
     muestra(peticion(ModoFichero::Abrir), [&](VentanaFichero& v) {
         auto* const tipos = v.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
@@ -194,10 +269,10 @@ void TstDialogoFichero::todos_son_todos() {
 
 void TstDialogoFichero::el_sitio_se_guarda() {
     auto r = muestra(peticion(ModoFichero::Abrir), [](VentanaFichero& v) {
-        QCOMPARE(v.pos().x(), qRound(1500.0 * v.logicalDpiX() / 1440));
+        QCOMPARE(v.pos().x(), qRound(600.0 * v.logicalDpiX() / 1440));
         v.reject();
     });
-    QCOMPARE(r.izquierda, 1500.0F);
+    QCOMPARE(r.izquierda, 600.0F);
     QCOMPARE(r.arriba, 750.0F);
     int dpi = 96;
     r = muestra(peticion(ModoFichero::Abrir), [&](VentanaFichero& v) {
