@@ -224,8 +224,12 @@ void MsfEditor::recoloca() {
     if (casilla_.abierta) casilla_.sitio = rectangulo_celda(t_, casilla_.fila, casilla_.col);
 }
 
+// Nobody types blindly into what was scrolled away.
 void MsfEditor::escribe_casilla(std::string_view texto) {
-    if (casilla_.abierta) casilla_.texto = texto;
+    if (!casilla_.abierta) return;
+    casilla_.texto = texto;
+    muestra_celda(t_, casilla_.fila, casilla_.col);
+    recoloca();
 }
 
 // The pair of columns that are filtered leaves the decimals out; meant so.

@@ -3,6 +3,7 @@
 #include "core/tablero.h"
 
 #include "core/con_memoria.h"
+#include "core/geometria.h"
 
 #include <algorithm>
 
@@ -242,8 +243,17 @@ void Tablero::desplazamiento(int twips) {
 }
 
 void Tablero::pon_vista(int ancho, int alto) {
-    ancho_vista_ = std::max(ancho, 0);
-    alto_vista_ = std::max(alto, 0);
+    sin_hueco_nuevo([&] {
+        ancho_vista_ = std::max(ancho, 0);
+        alto_vista_ = std::max(alto, 0);
+    });
+}
+
+// A window that was full of rows stays so while there are rows above: they come down into the room gained.
+void Tablero::sin_hueco_nuevo(const std::function<void()>& cambia) {
+    const bool llena = alto_vista_ > 0 && TopRow() <= fila_superior_maxima(*this);
+    cambia();
+    if (llena) parte_.fila_superior = std::min(TopRow(), fila_superior_maxima(*this));
     ajusta();
 }
 

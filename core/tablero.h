@@ -125,7 +125,9 @@ public:
     [[nodiscard]] int desplazamiento() const { return parte_.desplazamiento; }
 
     void desplazamiento(int twips);
-    /// The size of the window that shows the grid, header included; the front end tells it.
+    /// The size of the window that shows the grid, header included; the front end tells it. Rows that are
+    /// scrolled away come back into the room that a larger window gives below the last row; not those that
+    /// `TopRow` scrolled away beyond that row before.
     void pon_vista(int ancho, int alto);
 
     [[nodiscard]] int ancho_vista() const { return ancho_vista_; }
@@ -233,6 +235,7 @@ private:
     void comprueba(const Bloque& bloque) const;
     void comprueba_tamano(std::int64_t filas, std::int64_t columnas) const;
     void recorta();
+    void sin_hueco_nuevo(const std::function<void()>& cambia);
     void ajusta();
     void avisa_cursor();
     void avisa_parte();

@@ -65,7 +65,9 @@ void Tablero::RowHeight(int fila, int twips) {
 
 void Tablero::alto_normal(int twips) {
     const int alto = std::max(twips, 1);
-    if (std::exchange(alto_normal_, alto) != alto) avisos_.alto_cambiado(-1);
+    if (alto == alto_normal_) return;
+    sin_hueco_nuevo([&] { alto_normal_ = alto; });
+    avisos_.alto_cambiado(-1);
 }
 
 // Colours and pictures

@@ -84,7 +84,15 @@ int EditorCelda::tecla_casilla(int KeyAscii) {
         confirma_y_avanza();
         return 0;
     }
+    enseña_celda();
     return abierta_casilla() && es_numerico(clase) ? filtra(KeyAscii) : KeyAscii;
+}
+
+// Nobody types blindly into what was scrolled away.
+void EditorCelda::enseña_celda() {
+    if (!abierto() || !existe_celda()) return;
+    muestra_celda(e_.tablero, fila_, col_);
+    recoloca();
 }
 
 int EditorCelda::filtra(int KeyAscii) {
@@ -118,7 +126,10 @@ int EditorCelda::tecla_lista(int KeyAscii) {
         enfoca();
         return 0;
     }
-    if (KeyAscii != teclas::INTRO && KeyAscii != teclas::ESPACIO) return KeyAscii;
+    if (KeyAscii != teclas::INTRO && KeyAscii != teclas::ESPACIO) {
+        enseña_celda();
+        return KeyAscii;
+    }
     confirma_y_avanza();
     return 0;
 }

@@ -53,7 +53,8 @@ public:
     /// open nothing. A list opens without the character.
     void abre_por_tecla(int KeyAscii);
 
-    /// A key in the open box. Returns the key to be typed, or 0 when it was dropped or handled.
+    /// A key in the open box, whose cell is scrolled into view for it. Returns the key to be typed, or 0 when
+    /// it was dropped or handled.
     int tecla_casilla(int KeyAscii);
     /// A character that reaches the grid while an editor is open (an input method gives several at once):
     /// a key of the editor, typed at the caret of the box. Closed: nothing.
@@ -92,6 +93,7 @@ private:
     void y_enfoca(F&& hace); // runs it, then gives the focus to the grid
     int filtra(int KeyAscii);
     [[nodiscard]] bool existe_celda() const;
+    void enseña_celda();
     void cierra();
     void oculta(Que que);
     void enfoca();

@@ -12,6 +12,7 @@
 #include "qt/vista_columnas.h"
 
 #include <QCheckBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -80,7 +81,8 @@ QAction* VentanaColumnas::crea_accion(
 QPushButton* VentanaColumnas::crea_boton(const char* nombre, std::string_view texto, OrdenColumnas orden) {
     auto* b = new QPushButton(a_qstring(texto), contenido_);
     b->setObjectName(QString::fromLatin1(nombre));
-    b->setAutoDefault(false); // Enter belongs to the grid
+    b->setAutoDefault(false); // Enter belongs to the grid, and to the button that has the focus
+    b->installEventFilter(this);
     connect(b, &QPushButton::clicked, this, [this, orden] { usa(orden); });
     return b;
 }
@@ -187,6 +189,14 @@ void VentanaColumnas::reject() { usa(OrdenColumnas::Salir); }
 
 bool VentanaColumnas::eventFilter(QObject* objeto, QEvent* e) {
     if (objeto == contenido_ && e->type() == QEvent::Resize) distribuye();
+    auto* const boton = qobject_cast<QPushButton*>(objeto);
+    if (boton != nullptr && e->type() == QEvent::KeyPress) {
+        const int tecla = static_cast<QKeyEvent*>(e)->key();
+        if (tecla == Qt::Key_Return || tecla == Qt::Key_Enter) {
+            boton->click();
+            return true;
+        }
+    }
     return QDialog::eventFilter(objeto, e);
 }
 

@@ -44,7 +44,10 @@ CasillaEditor::CasillaEditor(RejillaColumnas& modelo, VistaColumnas& vista)
     setFocusPolicy(Qt::ClickFocus);
     setTextMargins(MARGEN_TEXTO_PX - MARCO_PX - 2, 0, 0, 0);
     hide();
-    connect(this, &QLineEdit::textChanged, this, [this] { modelo_.escribe_casilla(dado()); });
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        modelo_.escribe_casilla(dado());
+        vista_.refresca(); // the cell may have come into view
+    });
 }
 
 void CasillaEditor::abre() {

@@ -417,6 +417,26 @@ TEST_F(Msf_editor, se_abre_donde_se_ve) {
     EXPECT_EQ(casilla().sitio.arriba, 300);
 }
 
+TEST_F(Msf_editor, escribir_trae_de_vuelta_su_celda) {
+    rellena(25);
+    rejilla().mide(5000, 1500, 300); // four data rows
+    clic(3, ED_NOMBRE);
+    rejilla().desplaza(20, 400);
+    rejilla().escribe_casilla("Este");
+    EXPECT_EQ(t().TopRow(), 3);
+    EXPECT_EQ(casilla().sitio, (Rectangulo{0, 300, 2400, 300}));
+}
+
+TEST_F(Msf_editor, en_una_ventana_mayor_vuelven_las_filas) {
+    rellena(25);
+    rejilla().mide(5000, 1500, 300); // four data rows
+    rejilla().desplaza(22, 0);
+    rejilla().mide(5000, 3300, 300); // ten
+    EXPECT_EQ(t().TopRow(), 16);
+    rejilla().mide(5000, 9000, 300); // all
+    EXPECT_EQ(t().TopRow(), 1);
+}
+
 // --- Taking over ---
 
 TEST_F(Msf_editor, al_aplicar_nombres_anchos_y_decimales_van_a_los_formatos) {

@@ -235,6 +235,36 @@ TEST_F(Geometria, cuantas_filas_caben_con_altos_propios) {
     EXPECT_EQ(filas_visibles(t), 1);
 }
 
+TEST_F(Geometria, al_crecer_la_ventana_vuelven_las_filas_de_arriba) {
+    t.TopRow(95); // 95 to 99 fill the five whole rows
+    t.pon_vista(2300, 1700); // seven
+    EXPECT_EQ(t.TopRow(), 93);
+    t.pon_vista(2300, 1200); // five: what was on top stays there
+    EXPECT_EQ(t.TopRow(), 93);
+    t.pon_vista(2300, 1600);
+    EXPECT_EQ(t.TopRow(), 93);
+    t.pon_vista(2300, 100000);
+    EXPECT_EQ(t.TopRow(), 1);
+}
+
+TEST_F(Geometria, en_medio_crecer_la_ventana_no_mueve_filas) {
+    t.TopRow(50);
+    t.pon_vista(2300, 6000);
+    EXPECT_EQ(t.TopRow(), 50);
+}
+
+TEST_F(Geometria, un_hueco_que_ya_estaba_se_queda) {
+    t.TopRow(98); // by the host: 98 and 99, and room for three
+    t.pon_vista(2300, 1700);
+    EXPECT_EQ(t.TopRow(), 98);
+}
+
+TEST_F(Geometria, con_filas_mas_bajas_tambien_vuelven) {
+    t.TopRow(95);
+    t.alto_normal(100); // the header too: twelve rows
+    EXPECT_EQ(t.TopRow(), 88);
+}
+
 TEST_F(Geometria, la_fila_superior_maxima_muestra_la_ultima_abajo) {
     EXPECT_EQ(fila_superior_maxima(t), 95);
     t.RowHeight(98, 500);

@@ -372,6 +372,28 @@ TEST_F(PruebaEditor, recoloca_lleva_la_lista_tras_su_celda) {
 
 // --- Colours ---
 
+TEST_F(PruebaEditor, una_tecla_en_la_casilla_trae_de_vuelta_su_celda) {
+    t().Rows(100);
+    edita(2, 1, "a");
+    t().TopRow(50);
+    EXPECT_EQ(editor.tecla_casilla('b'), 'b');
+    EXPECT_EQ(t().TopRow(), 2);
+    EXPECT_EQ(p.casilla.celda(), rectangulo_celda(t(), 2, 1));
+    t().TopRow(50);
+    editor.tecla_casilla(teclas::ESCAPE); // nothing more is typed
+    EXPECT_EQ(t().TopRow(), 50);
+}
+
+TEST_F(PruebaEditor, una_tecla_en_la_lista_trae_de_vuelta_su_celda) {
+    t().Rows(100);
+    va(2, 4);
+    editor.abre_por_F2();
+    t().TopRow(50);
+    EXPECT_EQ(editor.tecla_lista('b'), 'b');
+    EXPECT_EQ(t().TopRow(), 2);
+    EXPECT_EQ(p.lista.celda(), rectangulo_celda(t(), 2, 4));
+}
+
 TEST_F(PruebaEditor, el_fondo_de_una_celda_de_color_sigue_como_estaba) {
     e.edicionColor = true;
     t().color_fondo({1, 5, 1, 5}, 255);

@@ -37,7 +37,11 @@ private slots:
     void clics_rapidos_cuentan_todos();
     void las_teclas_recorren_la_rejilla();
     void el_tabulador_recorre_los_controles();
+    void Intro_en_un_boton_lo_pulsa();
+    void Intro_en_una_marca_no_hace_nada();
     void muchas_columnas_se_desplazan_y_la_casilla_con_ellas();
+    void lo_tecleado_fuera_de_la_vista_vuelve_a_verse();
+    void en_una_ventana_mayor_vuelven_las_filas();
     void un_ancho_imposible_dice_error_6();
     void un_error_en_el_clic_sale_sobre_la_ventana();
     void se_lee_en_voz_alta();
@@ -379,6 +383,62 @@ void TstColumnas::muchas_columnas_se_desplazan_y_la_casilla_con_ellas() {
         for (int i = 0; i < 30; ++i) m.pulsa_ed(Qt::Key_Down);
         QCOMPARE(filas->value(), filas->maximum());
         QVERIFY(m.rejilla()->viewport()->rect().contains(m.rejilla()->rect_celda(25, ED_NOMBRE)));
+    }});
+}
+
+void TstColumnas::Intro_en_un_boton_lo_pulsa() {
+    MesaColumnas m;
+    m.edita({[&] {
+                 m.escribe(F_X, ED_NOMBRE, "Este");
+                 m.hijo<QPushButton>("butAplicarCambios")->setFocus(Qt::TabFocusReason);
+                 m.pulsa_ed(Qt::Key_Return);
+             },
+        [&] {
+            m.escribe(F_X, ED_NOMBRE, "Oeste");
+            m.hijo<QPushButton>("ButCancelar")->setFocus(Qt::TabFocusReason);
+            m.pulsa_ed(Qt::Key_Enter);
+            QVERIFY(!m.dialogo->isVisible());
+        }});
+    QCOMPARE(m.celda(0, X), QStringLiteral("Este"));
+}
+
+void TstColumnas::Intro_en_una_marca_no_hace_nada() {
+    MesaColumnas m;
+    m.edita({[&] {
+        auto* const marca = m.hijo<QCheckBox>("chkColumna0");
+        const bool antes = marca->isChecked();
+        marca->setFocus(Qt::TabFocusReason);
+        m.pulsa_ed(Qt::Key_Return);
+        QCOMPARE(marca->isChecked(), antes);
+        QVERIFY(m.dialogo->isVisible());
+    }});
+}
+
+void TstColumnas::lo_tecleado_fuera_de_la_vista_vuelve_a_verse() {
+    MesaColumnas m;
+    m.tabla().Cols(26);
+    m.edita({[&] {
+        m.clic_celda(F_X, ED_NOMBRE);
+        for (int i = 0; i < 20; ++i) manos::rueda(*m.rejilla()->viewport(), QPoint(20, 150), QPoint(0, -120));
+        QVERIFY(!m.rejilla()->viewport()->rect().intersects(m.caja()->geometry()));
+        m.teclea_ed("E");
+        QVERIFY(m.rejilla()->viewport()->rect().contains(m.caja()->geometry()));
+        QCOMPARE(m.caja()->geometry(), m.rejilla()->rect_celda(F_X, ED_NOMBRE).adjusted(2, 2, -2, -2));
+        QCOMPARE(m.caja()->text(), QStringLiteral("E"));
+    }});
+}
+
+void TstColumnas::en_una_ventana_mayor_vuelven_las_filas() {
+    MesaColumnas m;
+    m.tabla().Cols(26);
+    m.edita({[&] {
+        QScrollBar* filas = m.rejilla()->verticalScrollBar();
+        filas->setValue(filas->maximum());
+        const int antes = filas->value();
+        const int alto_fila = m.rejilla()->rect_celda(antes, ED_NOMBRE).height();
+        QVERIFY(antes > 4);
+        m.dialogo->resize(m.dialogo->width(), m.dialogo->height() + 4 * alto_fila);
+        QTRY_COMPARE(filas->value(), antes - 4);
     }});
 }
 
