@@ -68,10 +68,11 @@ inline void viste(bool oscuro) {
     if (oscuro || QApplication::style()->name() == QLatin1String("windows"))
         QApplication::setStyle(QStringLiteral("Fusion"));
     if (!oscuro) return;
-    QPalette p(QColor(0x2B, 0x2D, 0x31), QColor(0x2B, 0x2D, 0x31));
-    p.setColor(QPalette::Base, QColor(0x1C, 0x1E, 0x21));
-    p.setColor(QPalette::AlternateBase, QColor(0x24, 0x26, 0x2A));
-    p.setColor(QPalette::ToolTipBase, QColor(0x38, 0x3B, 0x40));
+    // The style draws frames darker than the window: it has to be light enough for them to be seen.
+    QPalette p(QColor(0x4C, 0x50, 0x57), QColor(0x3C, 0x3F, 0x45));
+    p.setColor(QPalette::Base, QColor(0x1E, 0x20, 0x23));
+    p.setColor(QPalette::AlternateBase, QColor(0x28, 0x2A, 0x2E));
+    p.setColor(QPalette::ToolTipBase, QColor(0x4C, 0x50, 0x57));
     p.setColor(QPalette::Highlight, QColor(0x2F, 0x6F, 0xB5));
     p.setColor(QPalette::Link, QColor(0x6C, 0xB2, 0xF5));
     for (const auto papel :
@@ -82,6 +83,8 @@ inline void viste(bool oscuro) {
     for (const auto papel : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         p.setColor(QPalette::Disabled, papel, QColor(0x7A, 0x7E, 0x85));
     QApplication::setPalette(p);
+    p.setColor(QPalette::Base, p.color(QPalette::Window)); // a menu is seen over what it covers
+    QApplication::setPalette(p, "QMenu");
 }
 
 /// Draws the window into the file, at the scale of the screen. Returns the code the program ends with.

@@ -40,11 +40,17 @@ inline const QString ACERCAR = QStringLiteral("A&cercar");
 inline const QString ALEJAR = QStringLiteral("A&lejar");
 inline const QString VER_NOMBRES = QStringLiteral("&Nombres");
 inline const QString VER_CUADRICULA = QStringLiteral("C&uadrícula");
-inline const QString COLUMNAS = QStringLiteral("Columnas de la ta&bla...");
+inline const QString VER_TABLA = QStringLiteral("Ta&bla");
+inline const QString COLUMNAS = QStringLiteral("C&olumnas de la tabla...");
 inline const QString MENU_AYUDA = QStringLiteral("A&yuda");
 inline const QString RATON = QStringLiteral("&Ratón y teclas del plano");
 inline const QString DATOS = QStringLiteral("&Origen de los datos");
 inline const QString ACEPTAR = QStringLiteral("Aceptar");
+inline const QString SI = QStringLiteral("&Sí");
+inline const QString NO = QStringLiteral("&No");
+inline const QString CANCELAR = QStringLiteral("Cancelar");
+inline const QString GUARDAR_CAMBIOS =
+    QStringLiteral("La tabla tiene cambios sin guardar.\n\n¿Quiere guardarlos antes de salir?");
 inline const QString SOBRE_RATON =
     QStringLiteral("<table cellspacing='4'>"
                    "<tr><td><b>Rueda</b></td><td>acercar y alejar alrededor del puntero</td></tr>"
@@ -55,6 +61,7 @@ inline const QString SOBRE_RATON =
                    "<tr><td><b>Doble clic en un punto</b></td><td>seguir en su fila de la tabla</td></tr>"
                    "<tr><td><b>Doble clic en el fondo, Inicio</b></td><td>encuadrar todo</td></tr>"
                    "<tr><td><b>+ &nbsp; - &nbsp; flechas</b></td><td>acercar, alejar, mover</td></tr>"
+                   "<tr><td><b>F6</b></td><td>ocultar la tabla y volver a mostrarla</td></tr>"
                    "</table>");
 inline const QString SOBRE_DATOS = QStringLiteral(
     "155 puntos de muestreo de suelo en la vega del Mosa, cerca de Stein (Países Bajos). Coordenadas "
@@ -76,6 +83,8 @@ inline const QString SELECCION_MUCHOS = QStringLiteral("%1 seleccionados");
 inline const QString COORDENADAS = QStringLiteral("X %1   Y %2 m");
 inline const QString RECUADRO_SEGUIDAS =
     QStringLiteral("%1 puntos en el recuadro; la tabla elige filas seguidas: de la %2 a la %3");
+
+inline const QString TABLA_OCULTA = QStringLiteral("La tabla está oculta; %1 la muestra otra vez");
 
 // The plan.
 inline const QString NOMBRE_ACCESIBLE = QStringLiteral("Plano de los puntos");

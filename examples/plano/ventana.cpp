@@ -12,6 +12,8 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
 #include <QSplitter>
 #include <QStatusBar>
 
@@ -25,6 +27,8 @@ using Qlt4_Tabla::TablaWidget;
 
 namespace {
 
+constexpr QSize TALLA(1360, 820);
+constexpr QSize MARCO(16, 40); // room for the window's frame
 constexpr int MAX_RESUMEN = 10'000; // rows that a summary reads at every move of the selection
 
 /// The longest run of consecutive rows; the first of equal ones.
@@ -64,7 +68,7 @@ Ventana::Ventana(const std::vector<Muestra>& muestras, int filas, Recuerdo recue
     pon_barra_estado();
     conecta_tabla();
     conecta_plano();
-    resize(1360, 820);
+    resize(TALLA.boundedTo(screen()->availableSize() - MARCO));
     widget_->setFocus();
     refresca_estado();
 }
@@ -80,6 +84,7 @@ void Ventana::pon_menus() {
         QAction* a = accion(menu, texto, {}, hace);
         a->setCheckable(true);
         a->setChecked(true);
+        return a;
     };
     QMenu* archivo = menuBar()->addMenu(textos::MENU_ARCHIVO);
     accion(archivo, textos::SALIR, QKeySequence(Qt::CTRL | Qt::Key_Q), [this] { close(); });
@@ -95,6 +100,8 @@ void Ventana::pon_menus() {
     marcada(ver, textos::VER_NOMBRES, [this](bool si) { plano_->con_nombres(si); });
     marcada(ver, textos::VER_CUADRICULA, [this](bool si) { plano_->con_cuadricula(si); });
     ver->addSeparator();
+    ver_tabla_ = marcada(ver, textos::VER_TABLA, [this](bool si) { ve_tabla(si); });
+    ver_tabla_->setShortcut(Qt::Key_F6);
     accion(ver, textos::COLUMNAS, {},
         [this] { tabla_.mandos().orden(Qlt4_Tabla::Opcion::MN_editor_de_columnas); });
 
@@ -136,7 +143,7 @@ void Ventana::conecta_tabla() {
         plano_->seleccion_cambiada();
         refresca_estado();
     });
-    connect(widget_, &TablaWidget::Salir, this, [this] { plano_->setFocus(); });
+    connect(widget_, &TablaWidget::Salir, ver_tabla_, &QAction::trigger);
     connect(widget_, &TablaWidget::celdas_cambiadas, this,
         [this](int fila1, int, int fila2, int) { plano_->filas_cambiadas(fila1, fila2); });
     connect(widget_, &TablaWidget::filas_insertadas, plano_, &VistaPlano::filas_insertadas);
@@ -154,7 +161,8 @@ void Ventana::conecta_plano() {
     connect(plano_, &VistaPlano::punto_elegido, this, elige_punto);
     connect(plano_, &VistaPlano::punto_abierto, this, [this, elige_punto](int fila) {
         elige_punto(fila);
-        widget_->setFocus();
+        ver_tabla_->setChecked(true);
+        ve_tabla(true);
     });
     connect(plano_, &VistaPlano::punto_extendido, this,
         [this](int fila) { elige(tabla_.tablero().Row(), NOMBRE, fila, tabla_.Cols() - 1); });
@@ -215,7 +223,37 @@ QString Ventana::resumen_seleccion() {
         QString::fromStdString(tabla_.TextMatrix(desde, NOMBRE)), cota_media, zinc_medio);
 }
 
+// Whoever leaves the table has the plan alone, until the table is asked for again.
+void Ventana::ve_tabla(bool si) {
+    widget_->setVisible(si);
+    if (si) {
+        statusBar()->clearMessage();
+        widget_->setFocus();
+    } else {
+        plano_->setFocus();
+        statusBar()->showMessage(textos::TABLA_OCULTA.arg(ver_tabla_->shortcut().toString()));
+    }
+}
+
+// True: nothing is lost, or the user wants it so.
+bool Ventana::puede_cerrar() {
+    tabla_.mandos().editor().confirma_y_cierra(); // what is still being typed counts, too
+    if (tabla_.estado().Modificado == 0) return true;
+    QMessageBox caja(
+        QMessageBox::Question, textos::TITULO, textos::GUARDAR_CAMBIOS, QMessageBox::NoButton, this);
+    QPushButton* const si = caja.addButton(textos::SI, QMessageBox::YesRole);
+    QPushButton* const no = caja.addButton(textos::NO, QMessageBox::NoRole);
+    caja.setEscapeButton(caja.addButton(textos::CANCELAR, QMessageBox::RejectRole));
+    caja.setDefaultButton(si);
+    caja.exec();
+    if (caja.clickedButton() == no) return true;
+    if (caja.clickedButton() != si) return false;
+    tabla_.mandos().orden(Qlt4_Tabla::Opcion::Mnu_Tabla_Guardar_como);
+    return tabla_.estado().Modificado == 0; // else no file was chosen or written
+}
+
 void Ventana::closeEvent(QCloseEvent* e) {
+    if (!puede_cerrar()) return e->ignore();
     if (recuerdo_ == Recuerdo::Forma) guarda_forma();
     QMainWindow::closeEvent(e);
 }

@@ -11,6 +11,7 @@
 
 #include <vector>
 
+class QAction;
 class QLabel;
 
 namespace plano {
@@ -38,12 +39,15 @@ private:
     void elige_recuadro(const std::vector<int>& filas);
     void refresca_estado();
     [[nodiscard]] QString resumen_seleccion();
+    void ve_tabla(bool si);
+    [[nodiscard]] bool puede_cerrar();
     void guarda_forma();
 
     Qlt4_Tabla::TablaWidget* widget_;
     Qlt4_Tabla::Tabla0& tabla_;
     VistaPlano* plano_;
     Recuerdo recuerdo_;
+    QAction* ver_tabla_ = nullptr;
     QLabel* cuenta_ = nullptr;
     QLabel* seleccion_ = nullptr;
     QLabel* coordenadas_ = nullptr;
