@@ -46,7 +46,7 @@ enum class Opcion : int {
 inline constexpr std::size_t NUM_OPCIONES = 29;
 
 struct EstadoOpcion {
-    std::string titulo;
+    std::string titulo; ///< "&" marks the key, "&&" is shown as one
     bool visible = true;
     bool activa = true;
     bool marcada = false;

@@ -23,6 +23,8 @@ public:
     virtual void oculta() = 0;
     /// Lays the open box over `celda` again: the cell moved by scrolling or by a width.
     virtual void mueve(const Rectangulo& celda) = 0;
+    /// What the box holds: one line of what was typed, pasted or dropped. While nobody has changed it, the text
+    /// as it was given, byte for byte and of any length: a value that stays is no edit.
     [[nodiscard]] virtual std::string texto() const = 0;
     /// Replaces the text; the caret goes behind it, nothing is selected.
     virtual void pon_texto(std::string_view texto) = 0;

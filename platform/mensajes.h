@@ -28,7 +28,8 @@ public:
     virtual ~Mensajes() = default;
 
     /// Shows `texto` under `titulo` (empty: the program's own name) and waits. Closing a Yes/No box
-    /// without an answer gives No.
+    /// without an answer gives No. Under the hourglass the user has the usual pointer until then, and the
+    /// time it takes is not the command's.
     virtual Respuesta mensaje(std::string_view texto, EstiloMensaje estilo, std::string_view titulo) = 0;
     virtual void pitido() = 0;
     virtual void puntero(Puntero forma) = 0;

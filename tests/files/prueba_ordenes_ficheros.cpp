@@ -87,6 +87,15 @@ TEST_F(PruebaOrdenes, los_titulos_del_menu_nombran_la_tabla) {
     EXPECT_EQ(m.p.marco.veces_menus, 1);
 }
 
+TEST_F(PruebaOrdenes, la_y_comercial_de_un_nombre_no_marca_tecla_en_el_menu) {
+    nombres("Agua & Gas", "");
+    pon_titulos_de_ficheros(m.e);
+    EXPECT_EQ(m.e.menus[Opcion::Mnu_Tabla_Leer].titulo, "Abrir Tabla de Agua && Gas...");
+    EXPECT_EQ(m.e.menus[Opcion::Mnu_Tabla_Guardar_como].titulo, "Guardar Tabla de Agua && Gas como...");
+    EXPECT_EQ(elige_fichero_de_lectura(m.e), "");
+    EXPECT_EQ(pedido().titulo, "Abrir Tabla de Agua & Gas..."); // a window's title has no keys
+}
+
 TEST_F(PruebaOrdenes, lo_elegido_se_propone_la_proxima_vez) {
     m.p.ficheros.carpetas.insert("/casa/datos");
     m.p.dialogo_fichero.rutas = {"/casa/datos/p.tb0"};
