@@ -142,7 +142,7 @@ def cabecera(vueltas, vueltas_pares, carga):
     modelo = next((l.split(":")[1].strip() for l in open("/proc/cpuinfo") if l.startswith("model name")), "?")
     return (f"Run of {datetime.date.today()}, {os.cpu_count()} cores, {modelo}, {os.environ.get('QT_QPA_PLATFORM', 'screen')} "
             f"platform; load of the machine {carga:.1f} before and {os.getloadavg()[0]:.1f} after, so that it was "
-            f"{'busy with other work: trust the ratios' if carga > 1 else 'quiet'}. Median of {vueltas} rounds "
+            f"{'busy with other work: trust the ratios' if carga > 1.5 else 'quiet'}. Median of {vueltas} rounds "
             f"({vueltas_pares} of Qt's and wxWidgets' tables).\n")
 
 
