@@ -76,12 +76,13 @@ void Rellena_Fila(EstadoTabla& e, int f) {
 void mn_añadir_filas(EstadoTabla& e) {
     Tablero& t = e.tablero;
     const int filas = suma32(t.Rows(), 1);
+    const bool primera = t.Rows() == 1;
     e.revoca.Graba_Revoca();
     t.Rows(filas);
     e.Modificado = 1;
     Numera_Filas(t);
     recuenta_filas(e);
-    if (filas == 2) lleva_celda_a_datos(t); // what is typed next belongs to the first row
+    if (primera) lleva_celda_a_datos(t); // what is typed next belongs to it
     t.TopRow(filas - 1);
     termina_mensaje(e);
 }
@@ -96,7 +97,7 @@ void mn_insertar_filas(EstadoTabla& e) {
     const SinRedibujar quieto(t);
     const bool primera = t.Rows() == 1;
     t.inserta_filas(donde, n);
-    if (primera) lleva_celda_a_datos(t); // what is typed next belongs to the first row
+    if (primera) lleva_celda_a_datos(t); // what is typed next belongs to it
     termina_cambio_de_filas(e);
 }
 

@@ -25,7 +25,6 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollBar>
 #include <QToolButton>
 #include <QTreeView>
@@ -33,7 +32,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <utility>
 
 namespace Qlt4_Tabla {
@@ -82,16 +80,6 @@ QStringList filtros(std::string_view filtro) {
     return todos;
 }
 
-// The whole window where some screen shows it; a place on no screen goes to the nearest.
-QPoint en_pantalla(QPoint p, QSize talla) {
-    const QScreen* pantalla = QGuiApplication::screenAt(p);
-    if (pantalla == nullptr) pantalla = QGuiApplication::primaryScreen();
-    const QRect sitio = pantalla->availableGeometry();
-    const int x = std::clamp(p.x(), sitio.left(), std::max(sitio.left(), sitio.right() + 1 - talla.width()));
-    const int y = std::clamp(p.y(), sitio.top(), std::max(sitio.top(), sitio.bottom() + 1 - talla.height()));
-    return {x, y};
-}
-
 // A path as it is typed: "~" in front is the user's own folder.
 QString sin_tilde(const QString& ruta) {
     const bool la_suya = ruta == QLatin1String("~") || ruta.startsWith(QLatin1String("~/"));
@@ -127,6 +115,7 @@ VentanaFichero::VentanaFichero(
     setSidebarUrls({QUrl::fromLocalFile(QDir::homePath())});
     for (auto* const caja : findChildren<QLineEdit*>()) pon_menu_en_espanol(*caja);
     for (auto* const barra : findChildren<QScrollBar*>()) barra->setContextMenuPolicy(Qt::NoContextMenu);
+    for (auto* const boton : findChildren<QPushButton*>()) boton->setIcon({}); // as in our other dialogs
     pon_textos();
     prepara_listas();
     conecta();
@@ -281,9 +270,8 @@ RespuestaFichero DialogoFicheroQt::pide(const PeticionFichero& peticion) {
     IconosConTipos iconos; // longer than the window, whose reading of folders asks it
     const QPointer<VentanaFichero> ventana = new VentanaFichero(peticion, iconos, widget_.window());
     const Unidades u(*ventana);
-    ventana->move(en_pantalla({u.px_x(static_cast<int>(std::lround(peticion.izquierda))),
-                                  u.px_y(static_cast<int>(std::lround(peticion.arriba)))},
-        ventana->size()));
+    const QPoint sitio(u.px_x(twips_enteros(peticion.izquierda)), u.px_y(twips_enteros(peticion.arriba)));
+    ventana->move(dentro_de_pantalla(*ventana, sitio));
     RespuestaFichero r{{}, peticion.izquierda, peticion.arriba};
     const QPoint antes = ventana->pos();
     const bool elegido = ventana->exec() == QDialog::Accepted;

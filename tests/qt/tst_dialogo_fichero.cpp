@@ -2,6 +2,7 @@
 // The file dialog by real events on real files: what it shows, what a typed name becomes, what it asks, and
 // where it stands.
 #include "qt/dialogo_fichero_qt.h"
+#include "tests/qt/estilo_con_dibujos.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -13,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -47,6 +49,7 @@ private slots:
     void la_tilde_es_la_carpeta_del_usuario();
     void las_columnas_caben_al_abrirse();
     void la_lista_de_carpetas_habla_castellano();
+    void los_botones_no_llevan_dibujos();
     void todos_son_todos();
     void el_sitio_se_guarda();
     void fuera_de_la_pantalla_se_ve_igual();
@@ -257,6 +260,22 @@ void TstDialogoFichero::la_lista_de_carpetas_habla_castellano() {
     });
 }
 
+void TstDialogoFichero::los_botones_no_llevan_dibujos() {
+    QApplication::setStyle(new EstiloConDibujos);
+    int botones = 0;
+    int dibujos = 0;
+    muestra(peticion(ModoFichero::Guardar), [&](VentanaFichero& v) {
+        for (const auto* b : v.findChildren<QPushButton*>()) {
+            ++botones;
+            dibujos += b->icon().isNull() ? 0 : 1;
+        }
+        v.reject();
+    });
+    QApplication::setStyle(QStringLiteral("fusion"));
+    QCOMPARE(botones, 2);
+    QCOMPARE(dibujos, 0);
+}
+
 void TstDialogoFichero::todos_son_todos() {
     muestra(peticion(ModoFichero::Abrir), [&](VentanaFichero& v) {
         auto* const tipos = v.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
@@ -283,12 +302,14 @@ void TstDialogoFichero::el_sitio_se_guarda() {
 }
 
 void TstDialogoFichero::fuera_de_la_pantalla_se_ve_igual() {
-    PeticionFichero p = peticion(ModoFichero::Abrir);
-    p.izquierda = -9000;
-    p.arriba = 900000;
-    const auto r = muestra(
-        p, [](VentanaFichero& v) { QVERIFY(v.screen()->availableGeometry().intersects(v.frameGeometry())); });
-    QCOMPARE(r.izquierda, -9000.0F); // nobody moved it
+    for (const float lejos : {-9000.0F, 900000.0F, 1e30F}) {
+        PeticionFichero p = peticion(ModoFichero::Abrir);
+        p.izquierda = lejos;
+        p.arriba = 900000;
+        const auto r = muestra(p,
+            [](VentanaFichero& v) { QVERIFY(v.screen()->availableGeometry().contains(v.frameGeometry())); });
+        QCOMPARE(r.izquierda, lejos); // nobody moved it
+    }
 }
 
 QTEST_MAIN(TstDialogoFichero)

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // The widget around the grid: labels, message boxes, events, sizes, decimal sign, several tables at once.
+#include "tests/qt/estilo_con_dibujos.h"
 #include "tests/qt/mesa_qt.h"
 
 #include <QLayout>
 #include <QProgressBar>
-#include <QProxyStyle>
 #include <QPushButton>
 #include <QSignalSpy>
 
@@ -342,15 +342,8 @@ void TstEtiquetas::lo_que_tarda_una_respuesta_no_cuenta() {
 }
 
 void TstEtiquetas::los_botones_de_un_mensaje_no_llevan_dibujo() {
-    class ConDibujos final : public QProxyStyle {
-    public:
-        int styleHint(
-            StyleHint que, const QStyleOption* o, const QWidget* w, QStyleHintReturn* r) const override {
-            return que == SH_DialogButtonBox_ButtonsHaveIcons ? 1 : QProxyStyle::styleHint(que, o, w, r);
-        }
-    };
     Escucha e(nullptr);
-    QApplication::setStyle(new ConDibujos); // as some desktops have it
+    QApplication::setStyle(new EstiloConDibujos);
     int botones = 0;
     int dibujos = 0;
     manos::Mensajero mensajero([&](const QString&) {
