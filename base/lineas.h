@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Blocks of text as tables hand them over: fields parted by TAB, lines ended by CR LF.
-// Main names: busca_separador, recorre_separadores, cierra_lineas.
+// Main names: Separadores, cierra_lineas.
 #pragma once
 
 #include "base/publico.h"
@@ -16,46 +16,55 @@ namespace Qlt4_Tabla {
 
 [[nodiscard]] constexpr bool es_separador(char c) { return c == '\t' || c == '\n' || c == '\r'; }
 
-/// Marks the bytes below 14 of the eight at `p`: the lowest mark surely stands on one, those above it may not.
-/// Only for machines whose words begin with their lowest byte.
-[[nodiscard]] inline std::uint64_t marca_bajos(const char* p) {
-    constexpr std::uint64_t UNOS = 0x0101010101010101U;
-    constexpr std::uint64_t ALTOS = 0x8080808080808080U;
-    std::uint64_t w = 0;
-    std::memcpy(&w, p, 8);
-    return (w - UNOS * 14U) & ~w & ALTOS;
-}
+/// The TABs, LFs and CRs of a text, in order; the text must outlive this and keep them in their places. They are
+/// found by blocks of 64 bytes, eight at a time.
+class Separadores {
+public:
+    explicit Separadores(std::string_view texto) : texto_(texto) {}
 
-inline constexpr bool BYTES_EN_ORDEN = std::endian::native == std::endian::little;
-
-/// Where the first TAB, LF or CR stands from `desde` (0..size) on; the size of the text when there is none.
-[[nodiscard]] inline std::size_t busca_separador(std::string_view texto, std::size_t desde) {
-    while (BYTES_EN_ORDEN && texto.size() - desde >= 8) {
-        const std::uint64_t marcas = marca_bajos(texto.data() + desde);
-        if (marcas == 0) {
-            desde += 8;
-            continue;
-        }
-        desde += static_cast<std::size_t>(std::countr_zero(marcas)) / 8;
-        if (es_separador(texto[desde])) return desde;
-        ++desde;
+    /// Where the next one stands; the size of the text when none is left.
+    [[nodiscard]] std::size_t siguiente() {
+        std::size_t lugar = 0;
+        do {
+            while (marcas_ == 0)
+                if (!mira_bloque()) return texto_.size();
+            lugar = bloque_ + static_cast<std::size_t>(std::countr_zero(marcas_));
+            marcas_ &= marcas_ - 1;
+        } while (!es_separador(texto_[lugar]));
+        return lugar;
     }
-    while (desde < texto.size() && !es_separador(texto[desde])) ++desde;
-    return desde;
-}
 
-/// Calls `visita` with every TAB, LF and CR of the text, in order.
-template <class Visita>
-void recorre_separadores(std::string_view texto, const Visita& visita) {
-    std::size_t i = 0;
-    for (; BYTES_EN_ORDEN && texto.size() - i >= 8; i += 8)
-        for (std::uint64_t marcas = marca_bajos(texto.data() + i); marcas != 0; marcas &= marcas - 1) {
-            const char c = texto[i + static_cast<std::size_t>(std::countr_zero(marcas)) / 8];
-            if (es_separador(c)) visita(c);
-        }
-    for (; i < texto.size(); ++i)
-        if (es_separador(texto[i])) visita(texto[i]);
-}
+private:
+    static constexpr std::size_t BLOQUE = 64;
+
+    /// False at the end of the text.
+    bool mira_bloque() {
+        if (vistos_ == texto_.size()) return false;
+        bloque_ = vistos_;
+        std::size_t i = 0;
+        if (std::endian::native == std::endian::little && texto_.size() - bloque_ >= BLOQUE)
+            for (; i < BLOQUE; i += 8) marcas_ |= bajos_de_ocho(texto_.data() + bloque_ + i) << i;
+        for (; i < BLOQUE && bloque_ + i < texto_.size(); ++i)
+            marcas_ |= std::uint64_t{es_separador(texto_[bloque_ + i])} << i;
+        vistos_ += i;
+        return true;
+    }
+
+    /// Of the eight bytes at `p`, the first one lowest, those below 14: a bit each.
+    static std::uint64_t bajos_de_ocho(const char* p) {
+        constexpr std::uint64_t UNOS = 0x0101010101010101U;
+        constexpr std::uint64_t ALTOS = UNOS * 0x80;
+        std::uint64_t w = 0;
+        std::memcpy(&w, p, 8);
+        const std::uint64_t bajos = ~(((w & ~ALTOS) + UNOS * (0x80 - 14)) | w) & ALTOS;
+        return (bajos >> 7U) * 0x0102040810204080U >> 56U;
+    }
+
+    std::string_view texto_;
+    std::size_t bloque_ = 0; // of the marks
+    std::size_t vistos_ = 0; // bytes that were looked at
+    std::uint64_t marcas_ = 0; // of the block: bytes that may be separators and were not given yet
+};
 
 /// The text with every line ended by CR LF, the last one included: CR LF, a lone LF and a lone CR each end a
 /// line. An empty text has no line and stays empty.

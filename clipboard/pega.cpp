@@ -17,7 +17,7 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstring>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -25,46 +25,59 @@ namespace Qlt4_Tabla {
 
 namespace {
 
-using Campos = std::vector<std::string_view>;
+using Campos = std::span<const std::string_view>;
 
 /// Takes a block apart line by line. The block must outlive the fields; its commas may become points.
 class LectorBloque {
 public:
     LectorBloque(std::string& texto, bool comas_a_puntos, std::size_t caben)
-        : texto_(texto), comas_a_puntos_(comas_a_puntos), caben_(caben) {}
+        : texto_(texto),
+          caben_(caben),
+          campos_(caben),
+          separadores_(texto),
+          coma_(comas_a_puntos ? busca_coma(0) : texto.size()) {}
 
     /// Has another line begun?
     [[nodiscard]] bool quedan() const { return desde_ < texto_.size(); }
 
     /// The fields of the next line that have a column.
-    const Campos& linea() {
-        campos_.clear();
-        std::size_t fin = busca_separador(texto_, desde_);
-        for (; fin < texto_.size() && texto_[fin] == '\t'; fin = busca_separador(texto_, desde_)) {
-            toma_campo(fin);
+    Campos linea() {
+        const char* const texto = texto_.c_str(); // behind its end stands a 0
+        std::size_t n = 0;
+        std::size_t fin = 0;
+        do {
+            fin = separadores_.siguiente();
+            if (coma_ < fin) cambia_coma(fin);
+            if (n < caben_) campos_[n++] = {texto + desde_, fin - desde_};
             desde_ = fin + 1;
-        }
-        toma_campo(fin);
-        const bool doble = fin + 1 < texto_.size() && texto_[fin] == '\r' && texto_[fin + 1] == '\n';
-        desde_ = std::min(fin + (doble ? 2 : 1), texto_.size());
-        return campos_;
+        } while (texto[fin] == '\t');
+        if (texto[fin] == '\r' && texto[desde_] == '\n') desde_ = separadores_.siguiente() + 1;
+        return std::span(campos_).first(n);
+    }
+
+    /// The first line is the next one again; commas that became points stay so.
+    void vuelve_a_empezar() {
+        separadores_ = Separadores(texto_);
+        desde_ = 0;
     }
 
 private:
-    void toma_campo(std::size_t fin) {
-        if (campos_.size() == caben_) return;
-        char* const campo = texto_.data() + desde_;
-        const std::size_t n = fin - desde_;
-        if (comas_a_puntos_)
-            if (void* coma = std::memchr(campo, ',', n)) *static_cast<char*>(coma) = '.';
-        campos_.emplace_back(campo, n);
+    /// The next one stands in the field that ends at `fin`.
+    void cambia_coma(std::size_t fin) {
+        texto_[coma_] = '.';
+        coma_ = busca_coma(fin);
+    }
+
+    [[nodiscard]] std::size_t busca_coma(std::size_t desde) const {
+        return std::min(texto_.find(',', desde), texto_.size());
     }
 
     std::string& texto_;
-    bool comas_a_puntos_;
     std::size_t caben_;
+    std::vector<std::string_view> campos_;
+    Separadores separadores_;
     std::size_t desde_ = 0;
-    Campos campos_;
+    std::size_t coma_; ///< the first comma of a field that was not read yet
 };
 
 /// A clipboard that cannot be read holds no text.
@@ -96,11 +109,26 @@ void asegura_filas(Tablero& t, int fila, std::int64_t lineas) {
     });
 }
 
-void escribe_lineas(Tablero& t, int fila, int col, LectorBloque& bloque, Avance avance) {
-    for (int hechas = 0; bloque.quedan() && fila < t.Rows(); ++fila) {
-        sin_errores([&] { t.pon_fila(fila, col, bloque.linea()); });
-        avance.hasta(++hechas);
+/// All lines that end, in one pass; what is left of the block row by row: an open line, the lines of lone CRs, or
+/// everything, where column 0 is written too or an error came up, so that each row has its chance.
+void escribe_lineas(Tablero& t, int fila, int col, std::int64_t lineas, LectorBloque& bloque, Avance avance) {
+    const int primera = fila;
+    const auto siguiente = [&](int) {
+        avance.hasta(++fila - primera);
+        return bloque.linea();
+    };
+    bool juntas = false;
+    sin_errores([&] {
+        const int ultima = static_cast<int>(std::min<std::int64_t>(fila + lineas, t.Rows())) - 1;
+        if (col > 0) t.pon_filas({fila, col, ultima, t.Cols() - 1}, siguiente);
+        juntas = true;
+    });
+    if (!juntas) {
+        fila = primera;
+        bloque.vuelve_a_empezar();
     }
+    for (int esta = fila; bloque.quedan() && esta < t.Rows(); esta = fila)
+        sin_errores([&] { t.pon_fila(esta, col, siguiente(esta)); });
 }
 
 /// Labels and view as after any change of the rows; the formats show the pasted numbers in their form.
@@ -116,14 +144,15 @@ void refresca(EstadoTabla& e) {
 MedidasBloque mide_bloque(std::string_view texto) {
     MedidasBloque m;
     std::int64_t cuenta = 0;
-    recorre_separadores(texto, [&](char c) {
+    Separadores separadores(texto);
+    for (std::size_t i = separadores.siguiente(); i < texto.size(); i = separadores.siguiente()) {
         ++cuenta;
-        if (c == '\t') return;
+        if (texto[i] == '\t') continue;
         m.maximo = std::max(m.maximo, cuenta);
-        if (c == '\r') return;
+        if (texto[i] == '\r') continue;
         ++m.lineas;
         cuenta = 0;
-    });
+    }
     return m;
 }
 
@@ -148,7 +177,7 @@ void Pegar_Portapapeles(EstadoTabla& e, bool /*CambiarComa*/) {
     asegura_filas(t, fila, m.lineas);
     refresca_ComaDecimal(e);
     LectorBloque bloque(texto, !e.ComaDecimal, static_cast<std::size_t>(std::max(columnas, 0)));
-    escribe_lineas(t, fila, col, bloque, {e.plataforma.mensajes, textos::pegando, m.lineas});
+    escribe_lineas(t, fila, col, m.lineas, bloque, {e.plataforma.mensajes, textos::pegando, m.lineas});
     refresca(e);
 }
 

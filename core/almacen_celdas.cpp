@@ -265,11 +265,21 @@ FilasCambiadas AlmacenCeldas::transforma(int col, int desde, int hasta, const Ca
 
 FilasCambiadas AlmacenCeldas::pon_filas(int desde, int hasta, int col, const TextosDeFila& da) {
     std::span<const std::string_view> textos;
+    std::size_t columnas = 1;
+    const auto anota = [&](bool cambia) {
+        if (cambia) columnas = std::max(columnas, textos.size());
+        return cambia;
+    };
     const auto paso = [&](const Trozo&, int i, int fila) {
         textos = da(fila);
-        return yo_->nuevas.pon(i, col, textos);
+        const Escrita escrita = yo_->nuevas.pon(i, col, textos);
+        anota(escrita == Escrita::Otra);
+        return escrita;
     };
-    return escribe_filas(desde, hasta, paso, [&](int fila) { return yo_->escribe_fila(fila, col, textos); });
+    FilasCambiadas cambiadas = escribe_filas(
+        desde, hasta, paso, [&](int fila) { return anota(yo_->escribe_fila(fila, col, textos)); });
+    cambiadas.columnas = static_cast<int>(columnas);
+    return cambiadas;
 }
 
 // Rows

@@ -31,6 +31,7 @@ namespace Qlt4_Tabla {
 struct FilasCambiadas {
     int primera = -1;
     int ultima = -1;
+    int columnas = 1; ///< of the widest text or texts that changed a row
 
     [[nodiscard]] bool hay() const { return primera >= 0; }
 
@@ -78,8 +79,8 @@ public:
     /// Writes neighbouring cells of one row from column `col` on, in one go; the others stay. True when any
     /// had another text.
     bool pon_fila(int fila, int col, std::span<const std::string_view> textos);
-    /// The same for rows `desde`..`hasta` and a `col` above 0, in one pass: `da` gives the texts of each row. If it
-    /// throws, the rows before stay written.
+    /// The same for rows `desde`..`hasta` and a `col` above 0, in one pass: `da` gives the texts of each row, 1 or
+    /// more. If it throws, the rows before stay written.
     FilasCambiadas pon_filas(int desde, int hasta, int col, const TextosDeFila& da);
     /// Rewrites column `col` of rows `desde`..`hasta` in one pass. If `cambia` throws, the rows before stay
     /// rewritten and nothing is lost.

@@ -97,17 +97,18 @@ void muestra_decimal(const Decimal& numero, int decimales, std::string& destino)
     destino.assign(cifras, escribe_fijo(numero, std::min(decimales, maximos), cifras));
 }
 
-/// What applying its format does to the cells of a column; `nombre` tells two of them apart.
+/// What applying its format does to the cells of a column, which tells its `avance`; `nombre` tells two of them apart.
 struct FormaColumna {
     std::string nombre;
     CambioCelda da;
 };
 
 /// Every number in the form of its decimals; cells that have it already are left.
-FormaColumna forma_de_numeros(EstadoTabla& e, int decimales) {
+FormaColumna forma_de_numeros(EstadoTabla& e, int decimales, Avance avance) {
     bool preguntado = false; // the separator, once a column instead of once a cell
     return {"decimales" + Str(decimales),
-        [&e, decimales, preguntado](int, std::string_view texto, std::string& nuevo) mutable {
+        [&e, decimales, avance, preguntado](int fila, std::string_view texto, std::string& nuevo) mutable {
+            avance.hasta(fila);
             if (texto.empty()) return false;
             if (!std::exchange(preguntado, true)) refresca_ComaDecimal(e);
             if (tiene_forma_de_numero(texto, decimales)) return false;
@@ -117,10 +118,11 @@ FormaColumna forma_de_numeros(EstadoTabla& e, int decimales) {
 }
 
 /// Every value becomes the first of its list; error 9 at a value when there is none.
-FormaColumna forma_de_lista(const Matriz<std::string>& valores) {
+FormaColumna forma_de_lista(const Matriz<std::string>& valores, Avance avance) {
     const bool hay = !valores.empty() && valores.LBound() <= 0 && valores.UBound() >= 0;
-    return {
-        hay ? "lista:" + valores[0] : "lista", [&valores](int, std::string_view texto, std::string& nuevo) {
+    return {hay ? "lista:" + valores[0] : "lista",
+        [&valores, avance](int fila, std::string_view texto, std::string& nuevo) mutable {
+            avance.hasta(fila);
             if (texto.empty()) return false;
             const std::string& primero = valores[0];
             if (texto == primero) return false;
@@ -130,11 +132,11 @@ FormaColumna forma_de_lista(const Matriz<std::string>& valores) {
 }
 
 /// Nothing for a column whose cells stay as they are.
-std::optional<FormaColumna> forma_de(EstadoTabla& e, int col) {
+std::optional<FormaColumna> forma_de(EstadoTabla& e, int col, const Avance& avance) {
     const T_FormatoColumna& f = formato(e, col);
-    if (es_numerico(f.Formato)) return forma_de_numeros(e, es_real(f.Formato) ? f.Decimales : 0);
+    if (es_numerico(f.Formato)) return forma_de_numeros(e, es_real(f.Formato) ? f.Decimales : 0, avance);
     if (es_formato(f.Formato, T_formato::ListaU))
-        return forma_de_lista(e.listas[static_cast<std::size_t>(col)].Col);
+        return forma_de_lista(e.listas[static_cast<std::size_t>(col)].Col, avance);
     return std::nullopt;
 }
 
@@ -185,13 +187,9 @@ void Tablero_establece_Formato(EstadoTabla& e) {
 
 void Tablero_Formato_Columna(EstadoTabla& e, int col) {
     e.tablero.ColWidth(col, ancho_en_twips(formato(e, col)));
-    const auto forma = forma_de(e, col);
-    if (!forma) return;
-    Avance avance(e.plataforma.mensajes, textos::dando_formato, e.tablero.Rows() - 1);
-    e.tablero.da_forma(col, forma->nombre, [&](int fila, std::string_view texto, std::string& nuevo) {
-        avance.hasta(fila);
-        return forma->da(fila, texto, nuevo);
-    });
+    const Avance avance(e.plataforma.mensajes, textos::dando_formato, e.tablero.Rows() - 1);
+    const auto forma = forma_de(e, col, avance);
+    if (forma) e.tablero.da_forma(col, forma->nombre, forma->da);
 }
 
 void da_formato_a_columna(EstadoTabla& e, int col) {
@@ -214,7 +212,7 @@ bool computa_con_formato(EstadoTabla& e, int col, const ComputoColumna& computo)
     sin_errores([&] {
         const T_FormatoColumna& f = formato(e, col);
         const int ancho = ancho_en_twips(f);
-        const auto forma = forma_de(e, col);
+        const auto forma = forma_de(e, col, {});
         const int decimales = computo.numero && es_real(f.Formato) ? f.Decimales : 0;
         std::string sin_forma;
         e.tablero.transforma_columna(

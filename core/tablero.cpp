@@ -139,7 +139,8 @@ void Tablero::escribe_bloque(const Bloque& b, const Escribe& escribe) {
         avisa(b);
         throw;
     }
-    if (cambiadas.hay()) avisa({cambiadas.primera, b.col1, cambiadas.ultima, b.col2});
+    if (cambiadas.hay())
+        avisa({cambiadas.primera, b.col1, cambiadas.ultima, b.col1 + cambiadas.columnas - 1});
 }
 
 void Tablero::pon_filas(const Bloque& b, const TextosDeFila& da) {

@@ -85,7 +85,8 @@ public:
     void TextMatrix(int fila, int col, std::string_view texto);
     /// Writes neighbouring cells of one row from `col` on, with one notice.
     void pon_fila(int fila, int col, std::span<const std::string_view> textos);
-    /// The same for a block, from column 1 on, in one pass: `da(fila)` gives as many texts as it has columns.
+    /// The same for a block, from column 1 on, in one pass: `da(fila)` gives at most as many texts as it
+    /// has columns, 1 or more; the cells behind them stay.
     void pon_filas(const Bloque& bloque, const TextosDeFila& da);
     /// Rewrites a column's data cells in one pass and with one notice; see AlmacenCeldas::transforma.
     void transforma_columna(int col, int desde, int hasta, const CambioCelda& cambia);

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Line ends of texts from other programs, and the search for the signs that part a block of text.
+// Line ends of texts from other programs, and the signs that part a block of text.
 #include "base/lineas.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
+#include <string_view>
+#include <vector>
 
 using namespace Qlt4_Tabla;
 using namespace std::string_literals;
@@ -16,9 +18,21 @@ struct CasoLineas {
     std::string sale;
 };
 
-std::size_t busca_despacio(std::string_view texto, std::size_t desde) {
-    const std::size_t i = texto.find_first_of("\t\r\n", desde);
-    return i == std::string_view::npos ? texto.size() : i;
+/// Where they stand, the size of the text behind the last one.
+std::vector<std::size_t> separadores(std::string_view texto) {
+    std::vector<std::size_t> lugares;
+    Separadores todos(texto);
+    do lugares.push_back(todos.siguiente());
+    while (lugares.back() < texto.size());
+    return lugares;
+}
+
+std::vector<std::size_t> separadores_despacio(std::string_view texto) {
+    std::vector<std::size_t> lugares;
+    for (std::size_t i = 0; i < texto.size(); ++i)
+        if (texto[i] == '\t' || texto[i] == '\r' || texto[i] == '\n') lugares.push_back(i);
+    lugares.push_back(texto.size());
+    return lugares;
 }
 
 } // namespace
@@ -55,19 +69,30 @@ TEST(CierraLineas, toda_linea_acaba_en_CR_LF) {
     }
 }
 
-TEST(BuscaSeparador, da_el_primero_en_cualquier_sitio) {
-    // Every byte beside every separator, at every place of two eight-byte words.
+TEST(Separadores, da_todos_en_orden_y_ningun_otro) {
+    // Every byte beside every separator, at every place of a block of 64 bytes, of the next one and of a rest.
     for (int byte = 0; byte < 256; ++byte) {
-        for (std::size_t lugar = 0; lugar < 20; ++lugar) {
-            std::string texto(20, 'x');
+        for (std::size_t lugar = 0; lugar < 150; ++lugar) {
+            std::string texto(150, 'x');
             texto[lugar] = static_cast<char>(byte);
-            for (const char fin : {'\t', '\n', '\r', 'y'}) {
-                texto.back() = fin;
-                for (std::size_t desde = 0; desde <= texto.size(); ++desde)
-                    ASSERT_EQ(busca_separador(texto, desde), busca_despacio(texto, desde))
-                        << byte << ' ' << lugar << ' ' << desde;
-            }
+            if (lugar > 0) texto[lugar - 1] = "\t\n\ry"[lugar % 4];
+            ASSERT_EQ(separadores(texto), separadores_despacio(texto)) << byte << ' ' << lugar;
         }
     }
-    EXPECT_EQ(busca_separador("", 0), 0U);
+}
+
+TEST(Separadores, de_textos_de_cualquier_longitud) {
+    for (std::size_t n = 0; n < 200; ++n) {
+        const std::string todos(n, '\t');
+        const std::string ninguno(n, '\v');
+        ASSERT_EQ(separadores(todos), separadores_despacio(todos)) << n;
+        ASSERT_EQ(separadores(ninguno), std::vector{n}) << n;
+    }
+}
+
+TEST(Separadores, detras_del_ultimo_da_siempre_el_final) {
+    Separadores todos("a\tb");
+    EXPECT_EQ(todos.siguiente(), 1U);
+    EXPECT_EQ(todos.siguiente(), 3U);
+    EXPECT_EQ(todos.siguiente(), 3U);
 }

@@ -129,6 +129,26 @@ TEST_F(Pega, la_ultima_linea_abierta_llega_si_tiene_fila) {
     EXPECT_EQ(t().Rows(), 3);
 }
 
+TEST_F(Pega, lo_que_va_detras_de_las_lineas_acabadas_en_LF_tambien_llega) {
+    tabla(7, 3);
+    p.portapapeles.texto = "a\tb\r\nc\nd\re\rf\tg";
+    Pegar_Portapapeles(e, false);
+    EXPECT_EQ(datos(), "a|b/c|/d|/e|/f|g/|/");
+}
+
+TEST_F(Pega, lineas_de_distinto_ancho_dejan_lo_que_no_traen) {
+    pega_en(1, 1, "a|b|c/d|e|f/");
+    pega_en(1, 1, "x/y|z/");
+    EXPECT_EQ(datos(), "x|b|c/y|z|f/");
+}
+
+TEST_F(Pega, la_vista_oye_solo_de_lo_que_cambia) {
+    pega_en(1, 1, "a|b|c/d|e|f/");
+    p.vista.recoge();
+    pega("a|b|c/x|y/");
+    EXPECT_THAT(p.vista.recoge(), ElementsAre("celdas 2 1 2 2"));
+}
+
 TEST_F(Pega, un_campo_vacio_vacia_su_celda_y_lo_que_no_hay_se_queda) {
     pega_en(1, 1, "a|b|c/d|e|f/");
     pega_en(1, 1, "|x//");

@@ -49,6 +49,19 @@ TEST_F(Avisos_de_rejilla, una_fila_que_se_escribe_de_una_vez) {
     EXPECT_EQ(de([&] { t.pon_fila(2, 1, {}); }), Avisos());
 }
 
+TEST_F(Avisos_de_rejilla, filas_de_distinto_ancho_avisan_hasta_la_mas_ancha_que_cambia) {
+    const std::vector<std::vector<std::string_view>> filas{{"a"}, {"b", "c"}, {"d", "", ""}};
+    const auto da = [&](int fila) { return std::span(filas[static_cast<std::size_t>(fila - 2)]); };
+    EXPECT_EQ(de([&] { t.pon_filas({2, 1, 4, 3}, da); }), Avisos({"celdas 2 1 4 3"}));
+    EXPECT_EQ(de([&] { t.pon_filas({2, 1, 4, 3}, da); }), Avisos());
+    t.TextMatrix(2, 1, "x");
+    t.TextMatrix(3, 2, "x");
+    t.TextMatrix(4, 3, "z");
+    vista.recoge();
+    EXPECT_EQ(de([&] { t.pon_filas({2, 1, 3, 3}, da); }), Avisos({"celdas 2 1 3 2"}));
+    EXPECT_EQ(t.TextMatrix(4, 3), "z"); // beyond what is written
+}
+
 TEST_F(Avisos_de_rejilla, una_columna_que_se_transforma) {
     const auto en_3_y_4 = [](int fila, std::string_view, std::string& nuevo) {
         nuevo = "x";
