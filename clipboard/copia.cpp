@@ -10,48 +10,49 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <span>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace Qlt4_Tabla {
 
 namespace {
 
-/// So many rows tell how long the whole text may become...
-constexpr int MUESTRA = 64;
-/// ... and no more than this is asked for beforehand: a few long texts at the top must not ask for all memory.
-constexpr std::size_t MAX_RESERVA = std::size_t{1} << 28;
-
-/// A line of the block; its memory is used again for the next one.
-class Linea {
+/// The block of text that the cells become, line by line.
+class TextoBloque {
 public:
-    Linea(FormaCelda forma, bool coma) : forma_(forma), coma_(coma) {}
+    TextoBloque(FormaCelda forma, bool coma) : forma_(forma), coma_(coma) {}
 
     /// One TAB between the cells, CR LF behind them.
-    [[nodiscard]] std::string_view de(std::span<const std::string_view> celdas) {
+    void pon_linea(std::span<const std::string_view> celdas) {
         std::size_t bytes = 2 * celdas.size() + 1;
         for (const std::string_view celda : celdas) bytes += 2 * celda.size();
-        if (linea_.size() < bytes) linea_.resize(bytes);
-        char* p = linea_.data();
+        char* p = sitio(bytes);
         for (const std::string_view celda : celdas) {
             p = pon_celda(p, celda);
             *p++ = '\t';
         }
         p[-1] = '\r';
         *p++ = '\n';
-        return {linea_.data(), static_cast<std::size_t>(p - linea_.data())};
+        usados_ = static_cast<std::size_t>(p - bytes_.data());
+    }
+
+    [[nodiscard]] Bytes acaba() && {
+        bytes_.resize(usados_);
+        return std::move(bytes_);
     }
 
 private:
-    static char* pon(char* p, std::string_view celda) {
-        if (!celda.empty()) std::memcpy(p, celda.data(), celda.size());
-        return p + celda.size();
+    /// Room for so many bytes more.
+    [[nodiscard]] char* sitio(std::size_t mas) {
+        if (bytes_.capacity() - usados_ < mas)
+            bytes_.reserve(std::max(usados_ + mas, bytes_.capacity() + bytes_.capacity() / 2));
+        return bytes_.data() + usados_;
     }
 
     static char* pon_con_coma(char* p, std::string_view celda) {
-        char* const fin = pon(p, celda);
+        char* const fin = pon_texto(p, celda);
         char* const punto = std::find(p, fin, '.');
         if (punto != fin) *punto = ',';
         return fin;
@@ -59,31 +60,26 @@ private:
 
     [[nodiscard]] char* pon_celda(char* p, std::string_view celda) const {
         if (forma_ == FormaCelda::Vacia) return p;
-        p = coma_ ? pon_con_coma(p, celda) : pon(p, celda);
+        p = coma_ ? pon_con_coma(p, celda) : pon_texto(p, celda);
         return forma_ == FormaCelda::Doblada ? pon_con_coma(p, celda) : p;
     }
 
     FormaCelda forma_;
     bool coma_;
-    std::string linea_;
+    Bytes bytes_;
+    std::size_t usados_ = 0;
 };
 
-std::string bloque_en_texto(const Tablero& t, const Bloque& b, FormaCelda forma, bool coma, Avance avance) {
-    std::string texto;
-    if (b.col1 > b.col2) return texto;
+Bytes bloque_en_texto(const Tablero& t, const Bloque& b, FormaCelda forma, bool coma, Avance avance) {
+    if (b.col1 > b.col2) return {};
     std::vector<std::string_view> celdas(static_cast<std::size_t>(b.col2 - b.col1) + 1);
-    Linea linea(forma, coma);
+    TextoBloque texto(forma, coma);
     for (int fila = b.fila1; fila <= b.fila2; ++fila) {
-        if (fila - b.fila1 == MUESTRA) {
-            const std::size_t por_fila = texto.size() / MUESTRA + 1;
-            const auto filas = static_cast<std::size_t>(b.fila2 - b.fila1) + 1;
-            texto.reserve(std::min(por_fila * filas + por_fila * filas / 8, MAX_RESERVA));
-        }
         if (fila < t.Rows() && b.col2 < t.Cols()) t.almacen().lee_fila(fila, b.col1, celdas);
-        texto += linea.de(celdas);
+        texto.pon_linea(celdas);
         avance.hasta(fila - b.fila1 + 1);
     }
-    return texto;
+    return std::move(texto).acaba();
 }
 
 void permite_pegar(EstadoTabla& e) {
@@ -96,7 +92,8 @@ void copia_bloque(EstadoTabla& e, const Bloque& bloque, FormaCelda forma) {
     refresca_ComaDecimal(e);
     const std::int64_t filas = std::int64_t{bloque.fila2} - bloque.fila1 + 1;
     const Avance avance(e.plataforma.mensajes, textos::copiando, filas);
-    e.plataforma.portapapeles.escribe(texto_de_bloque(e.tablero, bloque, forma, e.ComaDecimal, avance));
+    const Bytes texto = texto_de_bloque(e.tablero, bloque, forma, e.ComaDecimal, avance);
+    e.plataforma.portapapeles.escribe(texto.vista());
 }
 
 // The selection is only touched when the text is on the clipboard.
@@ -111,7 +108,7 @@ void copia_todo(EstadoTabla& e, const Bloque& bloque) {
 
 } // namespace
 
-std::string texto_de_bloque(
+Bytes texto_de_bloque(
     const Tablero& t, const Bloque& bloque, FormaCelda forma, bool coma, const Avance& avance) {
     return con_memoria([&] { return bloque_en_texto(t, bloque, forma, coma, avance); });
 }

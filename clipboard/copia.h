@@ -5,11 +5,11 @@
 // Main names: Copiar_Seleccion, Copiar_Tabla, mn_copiar_todo_y_cabezera, texto_de_bloque.
 #pragma once
 
+#include "base/bytes.h"
 #include "core/avance.h"
 #include "core/estado_tabla.h"
 
 #include <cstdint>
-#include <string>
 
 namespace Qlt4_Tabla {
 
@@ -23,7 +23,7 @@ enum class FormaCelda {
 /// The block of text of a rectangle; one without rows or without columns has none. Cells outside the grid add
 /// nothing. `coma`: the first point of a cell becomes a comma. `avance` counts the rows. No memory:
 /// error 7.
-[[nodiscard]] std::string texto_de_bloque(
+[[nodiscard]] Bytes texto_de_bloque(
     const Tablero& t, const Bloque& bloque, FormaCelda forma, bool coma, const Avance& avance = {});
 
 /// Copies the selection and enables the paste entries. `Modo` 0 and 1 do the same; any other value leaves the

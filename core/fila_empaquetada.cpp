@@ -2,6 +2,8 @@
 // Packed rows: the cases of wide rows and of long texts, apart from the ordinary ones; rows made from others.
 #include "core/fila_empaquetada.h"
 
+#include "base/bytes.h"
+
 #include <algorithm>
 
 namespace Qlt4_Tabla {
@@ -20,24 +22,8 @@ std::uint32_t columnas_con(const std::uint8_t* longitudes, std::uint32_t tenia, 
     return n;
 }
 
-// Most texts are of 4 to 16 bytes: two copies of 4 or 8, which may overlap, do without a call.
 std::uint8_t* pon(std::uint8_t* destino, std::string_view texto) {
-    const std::size_t n = texto.size();
-    const auto dos_de = [&](std::size_t k) {
-        std::uint64_t a = 0;
-        std::uint64_t b = 0;
-        std::memcpy(&a, texto.data(), k);
-        std::memcpy(&b, texto.data() + n - k, k);
-        std::memcpy(destino, &a, k);
-        std::memcpy(destino + n - k, &b, k);
-    };
-    if (n >= 8 && n <= 16)
-        dos_de(8);
-    else if (n >= 4 && n < 8)
-        dos_de(4);
-    else if (n != 0)
-        std::memcpy(destino, texto.data(), n);
-    return destino + n;
+    return destino + (pon_texto(reinterpret_cast<char*>(destino), texto) - reinterpret_cast<char*>(destino));
 }
 
 } // namespace

@@ -25,8 +25,7 @@ void espera_val(const CasoLectura (&casos)[N]) {
     for (const CasoLectura& caso : casos) EXPECT_EQ(Val(caso.texto), caso.valor) << '"' << caso.texto << '"';
 }
 
-constexpr double infinito = std::numeric_limits<double>::infinity();
-constexpr double nan_ = std::numeric_limits<double>::quiet_NaN();
+using Limites = std::numeric_limits<double>;
 
 std::string numero_al_azar(std::mt19937_64& motor) {
     constexpr char piezas[] = "0123456789012345678901234567890123456789.eEdD+-&hHoO,x ";
@@ -207,7 +206,7 @@ TEST(Entero32DeTexto, redondea_y_comprueba_igual_en_32_bits) {
 }
 
 TEST(EnteroDeReal, lo_que_no_es_finito_desborda) {
-    for (const double x : {infinito, -infinito, nan_, 1e300, -1e300}) {
+    for (const double x : {Limites::infinity(), -Limites::infinity(), Limites::quiet_NaN(), 1e300, -1e300}) {
         EXPECT_EQ(error_de([x] { entero16_de_real(x); }), 6) << x;
         EXPECT_EQ(error_de([x] { entero32_de_real(x); }), 6) << x;
     }

@@ -142,7 +142,7 @@ TEST_F(Copia, un_bloque_largo_llega_entero) {
 
 TEST_F(Copia, una_rejilla_sin_celdas_no_aporta_nada) {
     EXPECT_EQ(copia(), "\r\n");
-    EXPECT_EQ(texto_de_bloque(t(), {0, 0, 1, 1}, FormaCelda::Sola, false), "\t\r\n\t\r\n");
+    EXPECT_EQ(texto_de_bloque(t(), {0, 0, 1, 1}, FormaCelda::Sola, false).vista(), "\t\r\n\t\r\n");
 }
 
 // --- Everything ---

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+// Texts copied into blocks of bytes: every length, and nothing behind them is touched.
+#include "base/bytes.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+using namespace Qlt4_Tabla;
+
+TEST(PonTexto, copia_textos_de_cualquier_longitud_y_nada_mas) {
+    const std::string letras = "0123456789abcdefghijklmnopqrstuvwxyz";
+    for (std::size_t n = 0; n <= letras.size(); ++n) {
+        std::string destino(letras.size() + 2, '.');
+        char* const fin = pon_texto(destino.data() + 1, std::string_view(letras).substr(0, n));
+        EXPECT_EQ(fin, destino.data() + 1 + n);
+        EXPECT_EQ(destino, '.' + letras.substr(0, n) + std::string(letras.size() - n + 1, '.'));
+    }
+}
+
+TEST(PonTexto, un_texto_sin_lugar_es_vacio) {
+    char nada = 'x';
+    EXPECT_EQ(pon_texto(&nada, {}), &nada);
+    EXPECT_EQ(nada, 'x');
+}
