@@ -25,8 +25,6 @@ ListaCelda::ListaCelda(VistaRejilla& vista)
     label1_->setBackgroundRole(QPalette::Base);
     setFocusPolicy(Qt::ClickFocus);
     setInsertPolicy(QComboBox::NoInsert);
-    view()->installEventFilter(this);
-    sin_menu_en_barras(*view());
     connect(this, &QComboBox::activated, this, [this] {
         if (!tecleando_) mandos().clic_lista();
     });
@@ -62,6 +60,13 @@ void ListaCelda::oculta() {
     hidePopup();
     hide();
     label1_->hide();
+}
+
+// The dropped list is a window with a view and much else that most tables never show: it is made here.
+void ListaCelda::showPopup() {
+    view()->installEventFilter(this);
+    sin_menu_en_barras(*view());
+    QComboBox::showPopup();
 }
 
 bool ListaCelda::event(QEvent* e) {

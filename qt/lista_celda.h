@@ -24,6 +24,8 @@ public:
     void oculta();
     void mueve(const QRect& celda);
 
+    void showPopup() override;
+
 protected:
     bool event(QEvent* e) override;
     void keyPressEvent(QKeyEvent* e) override;
