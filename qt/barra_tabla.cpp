@@ -2,7 +2,7 @@
 // The toolbar's buttons, and the keys that walk them: qt/barra_tabla.h.
 #include "qt/barra_tabla.h"
 
-#include "qt/icono_svg.h"
+#include "qt/dibujos_barra.h"
 #include "qt/texto_qt.h"
 #include "qt/vista_rejilla.h"
 
@@ -20,18 +20,18 @@ namespace {
 constexpr int HUECO_PX = 6;
 constexpr int MARGEN_BARRA_PX = 2;
 
-struct Dibujo {
+struct DibujoBoton {
     const char* clave;
-    const char* nombre;
-    const char* pulsado;
+    Dibujo suelto;
+    Dibujo pulsado;
 };
 
-constexpr Dibujo DIBUJOS[] = {
-    {"Copiar", "copiar", ""},
-    {"Pegar", "pegar", ""},
-    {"Excel", "excel", ""},
-    {"Propiedades", "opciones", ""},
-    {"Avance", "avance_vertical", "avance_horizontal"},
+constexpr DibujoBoton DIBUJOS[] = {
+    {"Copiar", Dibujo::Copiar, Dibujo::Copiar},
+    {"Pegar", Dibujo::Pegar, Dibujo::Pegar},
+    {"Excel", Dibujo::Excel, Dibujo::Excel},
+    {"Propiedades", Dibujo::Opciones, Dibujo::Opciones},
+    {"Avance", Dibujo::AvanceVertical, Dibujo::AvanceHorizontal},
 };
 
 } // namespace
@@ -70,10 +70,10 @@ BarraTabla::BarraTabla(VistaRejilla& vista, QWidget* padre) : QWidget(padre), vi
 
 void BarraTabla::pon_iconos() {
     const int lado = fontMetrics().height() + MARGEN_BARRA_PX * 2;
-    for (const Dibujo& d : DIBUJOS) {
+    for (const DibujoBoton& d : DIBUJOS) {
         auto* boton = findChild<QToolButton*>(QString::fromLatin1(d.clave), Qt::FindDirectChildrenOnly);
         if (boton == nullptr) continue;
-        boton->setIcon(icono_svg(QString::fromLatin1(d.nombre), QString::fromLatin1(d.pulsado), palette()));
+        boton->setIcon(icono_de(d.suelto, d.pulsado, palette()));
         boton->setIconSize({lado, lado});
     }
 }

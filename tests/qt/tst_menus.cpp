@@ -34,6 +34,7 @@ private slots:
     void el_anfitrion_destruye_la_tabla_al_oir_Salir();
     void el_anfitrion_destruye_la_tabla_al_pulsar_un_boton();
     void la_barra_muestra_ayudas_y_huecos();
+    void cada_boton_tiene_su_dibujo();
     void la_barra_sigue_al_avance();
     void los_modos_esconden_botones();
     void el_raton_en_la_barra_no_quita_el_foco_a_la_casilla();
@@ -235,8 +236,16 @@ void TstMenus::la_barra_muestra_ayudas_y_huecos() {
         const auto* w = m.widget->findChild<QWidget*>(QString::fromLatin1(hueco));
         QVERIFY(w != nullptr && w->isVisible() && w->width() < boton(m, "Copiar")->width() / 2);
     }
-    for (const char* clave : {"Copiar", "Pegar", "Excel", "Propiedades", "Avance"})
-        QVERIFY(pintados(boton(m, clave)->icon().pixmap(24).toImage()) > 40);
+}
+
+void TstMenus::cada_boton_tiene_su_dibujo() {
+    MesaQt m;
+    QList<QImage> dibujos{boton(m, "Avance")->icon().pixmap(24, QIcon::Normal, QIcon::On).toImage()};
+    for (const char* clave : {"Copiar", "Pegar", "Excel", "Propiedades", "Avance"}) {
+        const QImage dibujo = boton(m, clave)->icon().pixmap(24).toImage();
+        QVERIFY(pintados(dibujo) > 40 && !dibujos.contains(dibujo));
+        dibujos << dibujo;
+    }
 }
 
 void TstMenus::la_barra_sigue_al_avance() {
