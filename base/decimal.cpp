@@ -218,17 +218,17 @@ std::optional<Decimal> decimal_de_texto(std::string_view texto) noexcept {
     if (menos) texto.remove_prefix(1);
     if (texto.size() > maximo_texto) return std::nullopt;
     const char* const fin = texto.data() + texto.size();
+    const char* p = texto.data();
+    const char* decimal = nullptr; // the first one
     std::uint64_t cifras = 0;
-    const char* p = lee_cifras(texto.data(), fin, cifras);
-    int decimales = 0;
-    std::ptrdiff_t signos = 0;
-    if (p != fin && (*p == '.' || *p == ',')) {
-        const char* const desde = p + 1;
-        p = lee_cifras(desde, fin, cifras);
-        decimales = static_cast<int>(p - desde);
-        signos = 1;
+    for (;;) {
+        p = lee_cifras(p, fin, cifras);
+        if (p == fin || decimal != nullptr || (*p != '.' && *p != ',')) break;
+        decimal = ++p;
     }
-    if (p != fin || p - texto.data() == signos) return std::nullopt;
+    const bool hay_cifras = texto.size() > (decimal != nullptr ? 1U : 0U);
+    if (p != fin || !hay_cifras) return std::nullopt;
+    int decimales = decimal != nullptr ? static_cast<int>(fin - decimal) : 0;
     for (; cifras >= potencias[maximas_cifras]; cifras /= 10, --decimales)
         if (decimales == 0 || cifras % 10 != 0) return std::nullopt;
     return Decimal{menos && cifras != 0, cifras, decimales};
