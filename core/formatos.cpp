@@ -97,14 +97,8 @@ void muestra_decimal(const Decimal& numero, int decimales, std::string& destino)
     destino.assign(cifras, escribe_fijo(numero, std::min(decimales, maximos), cifras));
 }
 
-/// What applying its format does to the cells of a column, which tells its `avance`; `nombre` tells two of them apart.
-struct FormaColumna {
-    std::string nombre;
-    CambioCelda da;
-};
-
-/// Every number in the form of its decimals; cells that have it already are left.
-FormaColumna forma_de_numeros(EstadoTabla& e, int decimales, Avance avance) {
+/// Every number in the form of its decimals; cells that have it already are left. `avance` is told of their rows.
+FormaCeldas forma_de_numeros(EstadoTabla& e, int decimales, Avance avance) {
     bool preguntado = false; // the separator, once a column instead of once a cell
     return {"decimales" + Str(decimales),
         [&e, decimales, avance, preguntado](int fila, std::string_view texto, std::string& nuevo) mutable {
@@ -114,11 +108,13 @@ FormaColumna forma_de_numeros(EstadoTabla& e, int decimales, Avance avance) {
             if (tiene_forma_de_numero(texto, decimales)) return false;
             muestra_numero(texto, decimales, nuevo);
             return nuevo != texto;
-        }};
+        },
+        [decimales](
+            std::string_view texto) { return texto.empty() || tiene_forma_de_numero(texto, decimales); }};
 }
 
 /// Every value becomes the first of its list; error 9 at a value when there is none.
-FormaColumna forma_de_lista(const Matriz<std::string>& valores, Avance avance) {
+FormaCeldas forma_de_lista(const Matriz<std::string>& valores, Avance avance) {
     const bool hay = !valores.empty() && valores.LBound() <= 0 && valores.UBound() >= 0;
     return {hay ? "lista:" + valores[0] : "lista",
         [&valores, avance](int fila, std::string_view texto, std::string& nuevo) mutable {
@@ -128,11 +124,12 @@ FormaColumna forma_de_lista(const Matriz<std::string>& valores, Avance avance) {
             if (texto == primero) return false;
             nuevo = primero;
             return true;
-        }};
+        },
+        {}};
 }
 
 /// Nothing for a column whose cells stay as they are.
-std::optional<FormaColumna> forma_de(EstadoTabla& e, int col, const Avance& avance) {
+std::optional<FormaCeldas> forma_de(EstadoTabla& e, int col, const Avance& avance) {
     const T_FormatoColumna& f = formato(e, col);
     if (es_numerico(f.Formato)) return forma_de_numeros(e, es_real(f.Formato) ? f.Decimales : 0, avance);
     if (es_formato(f.Formato, T_formato::ListaU))
@@ -189,7 +186,10 @@ void Tablero_Formato_Columna(EstadoTabla& e, int col) {
     e.tablero.ColWidth(col, ancho_en_twips(formato(e, col)));
     const Avance avance(e.plataforma.mensajes, textos::dando_formato, e.tablero.Rows() - 1);
     const auto forma = forma_de(e, col, avance);
-    if (forma) e.tablero.da_forma(col, forma->nombre, forma->da);
+    if (forma)
+        e.tablero.da_forma(col, *forma);
+    else
+        e.tablero.quita_forma(col);
 }
 
 void da_formato_a_columna(EstadoTabla& e, int col) {

@@ -64,7 +64,7 @@ void Tablero::inserta_filas(int fila, int n) {
     comprueba_tamano(std::int64_t{Rows()} + n, Cols());
     con_memoria([&] { almacen_.inserta(fila, n); });
     anota_filas([fila, n](TramosFilas& t) {
-        t.inserta(fila, n);
+        t.desplaza(fila, n);
         if (fila == 0) t.anade(n, n + 1); // what was the header may be a data row now
     });
     imagenes_.inserta_filas(fila, n);
@@ -131,7 +131,6 @@ template <class Escribe>
 void Tablero::escribe_bloque(const Bloque& b, const Escribe& escribe) {
     if (b.fila1 > b.fila2) return;
     comprueba(b);
-    anota_escritas(b.fila1, b.fila2, b.col1, b.col2);
     FilasCambiadas cambiadas;
     try {
         cambiadas = con_memoria(escribe);
@@ -145,19 +144,31 @@ void Tablero::escribe_bloque(const Bloque& b, const Escribe& escribe) {
 
 void Tablero::pon_filas(const Bloque& b, const TextosDeFila& da) {
     if (b.col1 < 1) fuera();
-    escribe_bloque(b, [&] { return almacen_.pon_filas(b.fila1, b.fila2, b.col1, da); });
+    const TextosDeFila anotando = [&](int fila) {
+        const auto textos = da(fila);
+        anota_fila(fila, b.col1, textos);
+        return textos;
+    };
+    escribe_bloque(b, [&] {
+        const bool hay_formas = std::any_of(columnas_.begin() + b.col1, columnas_.begin() + b.col2 + 1,
+            [](const Columna& c) { return c.forma != nullptr; });
+        return almacen_.pon_filas(b.fila1, b.fila2, b.col1, hay_formas ? anotando : da);
+    });
 }
 
 void Tablero::transforma_columna(int col, int desde, int hasta, const CambioCelda& cambia) {
-    escribe_bloque({desde, col, hasta, col}, [&] { return almacen_.transforma(col, desde, hasta, cambia); });
+    escribe_bloque({desde, col, hasta, col}, [&] {
+        anota_escritas(desde, hasta, col, col);
+        return almacen_.transforma(col, desde, hasta, cambia);
+    });
 }
 
 // A cell that changes is looked at once more the next time: only what was seen to stay as it is has its form.
-void Tablero::da_forma(int col, std::string_view nombre, const CambioCelda& cambia) {
+void Tablero::da_forma(int col, const FormaCeldas& nueva) {
     comprueba_columna(col);
     auto& forma = columnas_[static_cast<std::size_t>(col)].forma;
-    if (!forma || forma->nombre != nombre) {
-        forma = con_memoria([&] { return std::make_unique<Forma>(Forma{std::string(nombre), {}}); });
+    if (!forma || forma->nombre != nueva.nombre) {
+        forma = con_memoria([&] { return std::make_unique<Forma>(Forma{nueva.nombre, nueva.reconoce, {}}); });
         forma->pendientes.anade(0, Rows());
     }
     TramosFilas pendientes;
@@ -166,7 +177,7 @@ void Tablero::da_forma(int col, std::string_view nombre, const CambioCelda& camb
         for (const TramosFilas::Tramo& tramo : forma->pendientes.tramos()) {
             const FilasCambiadas de_estas = con_memoria([&] {
                 const int ultima = std::min(tramo.hasta, Rows()) - 1;
-                return almacen_.transforma(col, std::max(tramo.desde, 1), ultima, cambia);
+                return almacen_.transforma(col, std::max(tramo.desde, 1), ultima, nueva.da);
             });
             if (!de_estas.hay()) continue;
             pendientes.anade(de_estas.primera, de_estas.ultima + 1);
@@ -180,10 +191,22 @@ void Tablero::da_forma(int col, std::string_view nombre, const CambioCelda& camb
     if (cambiadas.hay()) avisa({cambiadas.primera, col, cambiadas.ultima, col});
 }
 
+void Tablero::quita_forma(int col) {
+    comprueba_columna(col);
+    columnas_[static_cast<std::size_t>(col)].forma.reset();
+}
+
 void Tablero::anota_escritas(int fila1, int fila2, int col1, int col2) {
     for (int col = col1; col <= col2; ++col)
         if (Forma* const f = columnas_[static_cast<std::size_t>(col)].forma.get())
             f->pendientes.anade(fila1, fila2 + 1);
+}
+
+void Tablero::anota_fila(int fila, int col, std::span<const std::string_view> textos) {
+    for (const std::string_view texto : textos) {
+        Forma* const f = columnas_[static_cast<std::size_t>(col++)].forma.get();
+        if (f && !(f->reconoce && f->reconoce(texto))) f->pendientes.anade(fila, fila + 1);
+    }
 }
 
 template <class Cambio>

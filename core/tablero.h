@@ -52,6 +52,13 @@ struct Bloque {
     friend constexpr bool operator==(const Bloque&, const Bloque&) = default;
 };
 
+/// A form that the cells of a column take; empty ones have every form.
+struct FormaCeldas {
+    std::string nombre; ///< tells it from others
+    CambioCelda da; ///< leaves the cells that have it
+    std::function<bool(std::string_view texto)> reconoce; ///< if any: true only for a text that has it
+};
+
 class TABLA_API Tablero {
 public:
     /// No rows, no columns, current cell (0, 0).
@@ -91,9 +98,11 @@ public:
     /// Rewrites a column's data cells in one pass and with one notice; see AlmacenCeldas::transforma.
     void transforma_columna(int col, int desde, int hasta, const CambioCelda& cambia);
 
-    /// The same for all data cells, but for those that need not be looked at: they were not written since
-    /// `cambia` left them as they were in an earlier call with the same `forma`, which names what it does.
-    void da_forma(int col, std::string_view forma, const CambioCelda& cambia);
+    /// The same for all data cells that may lack the form: they were written since they were left as they were by the
+    /// same form, and where many rows were written at once, not with a text that it recognises.
+    void da_forma(int col, const FormaCeldas& forma);
+    /// The column has no form: nothing has to be remembered of its rows.
+    void quita_forma(int col);
 
     // The current cell and the far corner. Row moves RowSel with it, Col moves ColSel.
     [[nodiscard]] int Row() const { return cursor_.fila; }
@@ -215,6 +224,7 @@ private:
 
     struct Forma {
         std::string nombre;
+        std::function<bool(std::string_view)> reconoce;
         TramosFilas pendientes; // rows that may not have it
     };
 
@@ -244,6 +254,7 @@ private:
     void escribe_bloque(const Bloque& bloque, const Escribe& escribe);
     void avisa(const Bloque& bloque);
     void anota_escritas(int fila1, int fila2, int col1, int col2);
+    void anota_fila(int fila, int col, std::span<const std::string_view> textos);
     template <class Cambio>
     void anota_filas(const Cambio& cambio);
     [[nodiscard]] Bloque bloque_de_relleno() const;

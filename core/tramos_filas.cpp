@@ -53,11 +53,15 @@ void TramosFilas::traslada(const Donde& donde) {
 }
 
 void TramosFilas::inserta(int fila, int n) {
+    desplaza(fila, n);
+    une(fila, fila + n);
+}
+
+void TramosFilas::desplaza(int fila, int n) {
     for (std::size_t i = 0; i < cuantos_; ++i) {
         if (tramos_[i].desde >= fila) tramos_[i].desde += n;
         if (tramos_[i].hasta > fila) tramos_[i].hasta += n;
     }
-    une(fila, fila + n);
 }
 
 void TramosFilas::borra(int fila, int n) {

@@ -4,6 +4,7 @@
 // takes no memory, and a call costs no more however many rows there are.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <span>
@@ -26,12 +27,21 @@ public:
 
     /// Takes in the rows from `desde` on, before `hasta`.
     void anade(int desde, int hasta) {
-        if (ultimo_ < cuantos_ && tramos_[ultimo_].desde <= desde && hasta <= tramos_[ultimo_].hasta) return;
+        if (ultimo_ < cuantos_) {
+            Tramo& t = tramos_[ultimo_];
+            if (t.desde <= desde && hasta <= t.hasta) return;
+            if (desde == t.hasta && ultimo_ + 1 == cuantos_) {
+                t.hasta = std::max(t.hasta, hasta);
+                return;
+            }
+        }
         une(desde, hasta);
     }
 
     /// `n` rows, which are taken in, were inserted before row `fila`.
     void inserta(int fila, int n);
+    /// `n` rows, which are not taken in where none beside them is, were inserted before row `fila`.
+    void desplaza(int fila, int n);
     void borra(int fila, int n);
     /// The same for any rows (ascending, no doubles).
     void borra(std::span<const int> filas);

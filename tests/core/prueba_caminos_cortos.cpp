@@ -10,10 +10,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <random>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -233,6 +236,8 @@ public:
         case 1: return borra(fila, filas > 10 ? 1 : 0);
         case 2: return formatea(2 * azar.hasta(1), 5);
         case 3: return formatea(0, azar.hasta(1));
+        case 4: return escribe_varias(fila, azar);
+        case 5: return azar.una_de(3) ? sin_formato() : escribe_varias(fila, azar);
         default: return escribe(fila, azar.una_de(5) ? "1.7976931348623157E308" : azar.numero(9, 4));
         }
     }
@@ -245,6 +250,26 @@ private:
     void escribe(int fila, const std::string& t) {
         mesa_.t().TextMatrix(fila + 1, 1, t);
         modelo_[static_cast<std::size_t>(fila)] = t;
+    }
+
+    /// Some rows at once, of which some have the form that the column may have.
+    void escribe_varias(int fila, Azar& azar) {
+        const int ultima = std::min(fila + 4, static_cast<int>(modelo_.size()) - 1);
+        for (int f = fila; f <= ultima; ++f) {
+            const std::string numero = azar.numero(9, 4);
+            modelo_[static_cast<std::size_t>(f)] =
+                azar.una_de(3) ? numero : forma_llana(numero, azar.hasta(2));
+        }
+        std::array<std::string_view, 1> uno;
+        mesa_.t().pon_filas({fila + 1, 1, ultima + 1, 1}, [&](int f) {
+            uno.front() = modelo_[static_cast<std::size_t>(f - 1)];
+            return std::span<const std::string_view>(uno);
+        });
+    }
+
+    void sin_formato() {
+        mesa_.pon_formato(1, T_formato::Alfanm);
+        Tablero_Formato_Columna(mesa_.e, 1);
     }
 
     void inserta(int fila, int n) {
@@ -297,6 +322,34 @@ TEST(CaminosCortos, ACellWrittenAfterwardsGetsItsForm) {
     mesa.pon_formato(1, T_formato::Real__, 1);
     Tablero_Formato_Columna(mesa.e, 1);
     EXPECT_EQ(mesa.columna(1), (Textos{"1.0", "2.5", "7.0", "0.0", "0.0"}));
+}
+
+TEST(CaminosCortos, OnlyRowsThatMayLackTheFormAreLookedAt) {
+    Mesa mesa;
+    mesa.pon_tamano(3, 4);
+    std::vector<int> miradas;
+    const FormaCeldas en_x{"x",
+        [&](int fila, std::string_view, std::string& nuevo) {
+            miradas.push_back(fila);
+            nuevo = "x";
+            return true;
+        },
+        [](std::string_view texto) { return texto == "x"; }};
+    const auto miradas_al_formar = [&] {
+        miradas.clear();
+        mesa.t().da_forma(1, en_x);
+        return miradas;
+    };
+    EXPECT_EQ(miradas_al_formar(), (std::vector{1, 2, 3}));
+    miradas_al_formar(); // those that changed are looked at once more
+    mesa.t().Rows(8);
+    EXPECT_EQ(miradas_al_formar(), (std::vector<int>{})); // empty
+    const std::vector<std::string_view> textos{"", "", "", "", "x", "y", "z", "x"};
+    mesa.t().pon_filas(
+        {4, 1, 7, 1}, [&](int fila) { return std::span(textos).subspan(static_cast<std::size_t>(fila), 1); });
+    EXPECT_EQ(miradas_al_formar(), (std::vector{5, 6}));
+    mesa.t().quita_forma(1);
+    EXPECT_EQ(miradas_al_formar(), (std::vector{1, 2, 3, 4, 5, 6, 7}));
 }
 
 } // namespace

@@ -45,6 +45,26 @@ TEST(TramosFilas, InsertedRowsAreTakenInAndMoveTheOthers) {
     EXPECT_THAT(de(t), ElementsAre(Tramo{0, 1}, Tramo{3, 7}, Tramo{11, 12}));
 }
 
+TEST(TramosFilas, RowsThatGiveWayMoveAndTakeNoneInFromOutside) {
+    TramosFilas t;
+    t.anade(2, 4);
+    t.anade(8, 9);
+    t.desplaza(3, 2); // within a run
+    EXPECT_THAT(de(t), ElementsAre(Tramo{2, 6}, Tramo{10, 11}));
+    t.desplaza(6, 1);
+    t.desplaza(0, 1);
+    EXPECT_THAT(de(t), ElementsAre(Tramo{3, 7}, Tramo{12, 13}));
+}
+
+TEST(TramosFilas, RowsAddedOneBehindTheOtherAreOneRun) {
+    TramosFilas t;
+    for (const int fila : {5, 6, 7, 2, 3, 4, 8}) t.anade(fila, fila + 1);
+    EXPECT_THAT(de(t), ElementsAre(Tramo{2, 9}));
+    t.anade(9, 9);
+    t.anade(1, 2);
+    EXPECT_THAT(de(t), ElementsAre(Tramo{1, 9}));
+}
+
 TEST(TramosFilas, RemovedRowsLeave) {
     TramosFilas t;
     t.anade(2, 6);
