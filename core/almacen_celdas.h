@@ -31,7 +31,7 @@ namespace Qlt4_Tabla {
 struct FilasCambiadas {
     int primera = -1;
     int ultima = -1;
-    int columnas = 1; ///< of the widest text or texts that changed a row
+    int columnas = 1; ///< the most neighbouring cells that one of them was given at once
 
     [[nodiscard]] bool hay() const { return primera >= 0; }
 
