@@ -8,6 +8,10 @@ namespace Qlt4_Tabla {
 
 void TramosFilas::une(int desde, int hasta) {
     if (desde >= hasta) return;
+    if (ultimo_ + 1 == cuantos_ && tramos_[ultimo_].hasta == desde) { // row after row
+        tramos_[ultimo_].hasta = hasta;
+        return;
+    }
     const auto fin = tramos_.begin() + static_cast<std::ptrdiff_t>(cuantos_);
     const auto primero =
         std::find_if(tramos_.begin(), fin, [desde](const Tramo& t) { return t.hasta >= desde; });

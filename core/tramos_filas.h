@@ -4,7 +4,6 @@
 // takes no memory, and a call costs no more however many rows there are.
 #pragma once
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <span>
@@ -27,14 +26,7 @@ public:
 
     /// Takes in the rows from `desde` on, before `hasta`.
     void anade(int desde, int hasta) {
-        if (ultimo_ < cuantos_) {
-            Tramo& t = tramos_[ultimo_];
-            if (t.desde <= desde && hasta <= t.hasta) return;
-            if (desde == t.hasta && ultimo_ + 1 == cuantos_) {
-                t.hasta = std::max(t.hasta, hasta);
-                return;
-            }
-        }
+        if (ultimo_ < cuantos_ && tramos_[ultimo_].desde <= desde && hasta <= tramos_[ultimo_].hasta) return;
         une(desde, hasta);
     }
 
