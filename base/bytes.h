@@ -56,7 +56,8 @@ private:
 
 /// Copies a text to `destino`; where it ends there. Quick where texts are short: one of 4 to 16 bytes is four copies of
 /// 4, which overlap where it has fewer, so that no branch depends on its size.
-inline char* pon_texto(char* destino, std::string_view texto) {
+template <class Byte>
+Byte* pon_texto(Byte* destino, std::string_view texto) {
     const std::size_t n = texto.size();
     if (n >= 4 && n <= 16) {
         const std::size_t paso = n / 8 * 4;

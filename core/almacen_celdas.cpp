@@ -199,6 +199,7 @@ bool AlmacenCeldas::pon_fila(int fila, int col, std::span<const std::string_view
 bool AlmacenCeldas::Interior::escribe_fila(int fila, int col, std::span<const std::string_view> textos) {
     if (textos.empty()) return false;
     const LugarFila l = indice.busca(fila);
+    l.trozo->cierra();
     const std::array<std::uint8_t, 1 + RELLENO> sin_textos{
         l.trozo->numeradas() ? CabeceraFila::NUMERADA : std::uint8_t{0}};
     const auto vieja = l.trozo->sin_textos() ? std::span(sin_textos).first(1) : l.trozo->fila(l.i);

@@ -22,10 +22,6 @@ std::uint32_t columnas_con(const std::uint8_t* longitudes, std::uint32_t tenia, 
     return n;
 }
 
-std::uint8_t* pon(std::uint8_t* destino, std::string_view texto) {
-    return destino + (pon_texto(reinterpret_cast<char*>(destino), texto) - reinterpret_cast<char*>(destino));
-}
-
 } // namespace
 
 CabeceraFila lee_cabecera_ancha(const std::uint8_t* p) {
@@ -73,7 +69,7 @@ std::uint8_t* compon_fila(std::uint8_t* destino, std::span<const std::uint8_t> v
     }
     for (std::uint32_t i = col; i < std::min(col2, c.columnas); ++i) {
         nuevas[i] = static_cast<std::uint8_t>(textos[i - col].size());
-        p = pon(p, textos[i - col]);
+        p = pon_texto(p, textos[i - col]);
     }
     return std::copy(detras, vieja.data() + vieja.size(), p);
 }

@@ -23,7 +23,7 @@ void haz_sitio(std::vector<T>& v, std::size_t mas) {
 }
 
 // Joining is only a matter of size: without memory it does not happen.
-bool absorbe(Trozo& a, const Trozo& b) noexcept {
+bool absorbe(Trozo& a, Trozo& b) noexcept {
     try {
         a.absorbe(b);
         return true;

@@ -8,6 +8,7 @@ namespace Qlt4_Tabla {
 
 void Reescritura::empieza(Trozo& t) {
     trozo_ = &t;
+    t.cierra();
     cuantas_ = 0;
     usados_ = 0;
     viejos_ = 0;

@@ -34,6 +34,12 @@ float medida(const Variante& valor) {
     return x;
 }
 
+void pon_real(EstadoTabla& e, int fila, int col, std::string_view valor, int decimales) {
+    refresca_ComaDecimal(e);
+    if (tiene_forma_de_numero(valor, decimales)) return e.tablero.TextMatrix(fila, col, valor);
+    e.tablero.TextMatrix(fila, col, Formato_Numero(valor, 0, decimales));
+}
+
 void pon_si_cero(std::int16_t& campo, std::int16_t valor) {
     if (campo == 0) campo = valor;
 }
@@ -56,15 +62,8 @@ void TextMatrix(EstadoTabla& e, std::int32_t fila, std::int32_t colm, std::strin
     if (!en_tablero(e.tablero, fila, colm)) return;
     const T_FormatoColumna* f = fila == 0 ? nullptr : &formato(e, colm);
     if (!std::exchange(e.primeraEscritura, true)) e.revoca.Graba_Revoca();
-    if (f == nullptr || !es_real(f->Formato)) {
-        e.tablero.TextMatrix(fila, colm, valor);
-        return;
-    }
-    refresca_ComaDecimal(e);
-    if (tiene_forma_de_numero(valor, f->Decimales))
-        e.tablero.TextMatrix(fila, colm, valor);
-    else
-        e.tablero.TextMatrix(fila, colm, Formato_Numero(valor, 0, f->Decimales));
+    if (f != nullptr && es_real(f->Formato)) return pon_real(e, fila, colm, valor, f->Decimales);
+    e.tablero.TextMatrix(fila, colm, valor);
 }
 
 std::string TextMatrix(const EstadoTabla& e, std::int32_t fila, std::int32_t colm) {

@@ -2,6 +2,8 @@
 // Trozo: rows behind the gap stand at the end of the run, so that growing it moves them with its end.
 #include "core/trozo.h"
 
+#include "base/bytes.h"
+
 #include <algorithm>
 #include <cstring>
 #include <functional>
@@ -114,6 +116,7 @@ void Trozo::empaqueta() {
 // Cells
 
 void Trozo::pon(int i, int col, const CeldaGuardada& celda) {
+    cierra();
     const auto columna = static_cast<std::uint32_t>(col);
     const std::uint32_t bytes = celda.longitud;
     const auto longitud = celda.contenido == Contenido::Largo ? LARGO : static_cast<std::uint8_t>(bytes);
@@ -192,25 +195,60 @@ void Trozo::acorta(int i, CabeceraFila c, std::uint32_t columnas) {
     encoge();
 }
 
-// The text goes into the gap before the others make room for its length, so that it may be one of them.
 bool Trozo::anexa(int i, int col, std::string_view texto) {
-    constexpr std::uint32_t MAXIMO = 31; // columns whose count fits into the first byte
-    if (i + 1 != corte_ || !bloque_ || cabida_ > BYTES_BUENOS) return false;
-    std::uint8_t* const fila = datos() + inicio(i);
-    const std::uint32_t tenia = fila[0] >> 2U;
-    const std::uint32_t columnas = static_cast<std::uint32_t>(col) + 1;
-    if (columnas <= tenia || columnas > MAXIMO) return false;
-    const std::uint32_t mas = columnas - tenia;
-    if (texto.empty() || texto.size() >= LARGO || mas + texto.size() > hueco()) return false;
-    std::uint8_t* const textos = fila + 1 + tenia;
-    std::uint8_t* const final = datos() + hueco_ini_;
-    std::memcpy(final + mas, texto.data(), texto.size());
-    std::memmove(textos + mas, textos, static_cast<std::size_t>(final - textos));
-    for (std::uint8_t* vacia = textos; vacia != textos + mas - 1; ++vacia) *vacia = 0;
-    textos[mas - 1] = static_cast<std::uint8_t>(texto.size());
-    fila[0] = static_cast<std::uint8_t>((fila[0] & 3U) | columnas << 2U);
-    hueco_ini_ += mas + static_cast<std::uint32_t>(texto.size());
+    const auto columna = static_cast<std::uint32_t>(col);
+    const auto bytes = static_cast<std::uint32_t>(texto.size());
+    if (bytes == 0 || bytes >= LARGO) return false;
+    if (i + 1 != corte_ && !pasa_a_vacia(i)) return false;
+    if (usadas_ == 0 ? !abre(columna, texto) : columna < usadas_) return false;
+    if (columna >= *bytes_de(i) >> 2U || !hay_sitio(bytes, texto)) return false;
+    datos()[inicio(i) + 1 + columna] = static_cast<std::uint8_t>(bytes);
+    pon_texto(datos() + hueco_ini_, texto);
+    hueco_ini_ += bytes;
+    usadas_ = columna + 1;
     return true;
+}
+
+// The gap passes an empty row that stands behind it.
+bool Trozo::pasa_a_vacia(int i) {
+    if (i != corte_ || !bloque_ || fin(i) - inicio(i) != 1) return false;
+    mueve_hueco(i + 1);
+    return true;
+}
+
+// The empty row before the gap takes room for the lengths of as many columns as the one above it stores, and there
+// is room for the text.
+bool Trozo::abre(std::uint32_t columna, std::string_view texto) {
+    const int i = corte_ - 1;
+    if (i == 0 || hueco_ini_ - inicio(i) != 1) return false;
+    const std::uint8_t arriba = *bytes_de(i - 1);
+    const std::uint32_t columnas = arriba >> 2U;
+    if ((arriba & CabeceraFila::SIGUE) != 0 || columna >= columnas) return false;
+    if (!hay_sitio(columnas + static_cast<std::uint32_t>(texto.size()), texto)) return false;
+    std::uint8_t* const fila = datos() + inicio(i);
+    std::memset(fila + 1, 0, columnas);
+    fila[0] = static_cast<std::uint8_t>((fila[0] & 3U) | columnas << 2U);
+    hueco_ini_ += columnas;
+    return true;
+}
+
+// Room for so many bytes, unless the chunk would grow too much or its block be moved away from under the text.
+bool Trozo::hay_sitio(std::uint32_t mas, std::string_view texto) {
+    if (mas <= hueco()) return true;
+    if (usados() + mas > BYTES_BUENOS || contiene(texto)) return false;
+    crece(mas);
+    return true;
+}
+
+void Trozo::cierra_fila() {
+    std::uint8_t* const fila = datos() + inicio(corte_ - 1);
+    const std::uint32_t columnas = fila[0] >> 2U;
+    const std::uint32_t sobran = columnas - usadas_;
+    const std::uint8_t* const textos = fila + 1 + columnas;
+    std::memmove(fila + 1 + usadas_, textos, static_cast<std::size_t>(datos() + hueco_ini_ - textos));
+    fila[0] = static_cast<std::uint8_t>((fila[0] & 3U) | usadas_ << 2U);
+    hueco_ini_ -= sobran;
+    usadas_ = 0;
 }
 
 // The flag of long texts after one was taken away.
@@ -279,6 +317,7 @@ void Trozo::borra(int i, int n) {
 }
 
 void Trozo::quita_columnas(int n) {
+    cierra();
     if (n == 0) numeradas_ = false;
     const auto columnas = static_cast<std::uint32_t>(n);
     for (int i = 0; bloque_ && i < filas_; ++i) {
@@ -322,7 +361,8 @@ Trozo Trozo::separa(int i) {
     return nuevo;
 }
 
-void Trozo::absorbe(const Trozo& otro) {
+void Trozo::absorbe(Trozo& otro) {
+    otro.cierra();
     const bool iguales = sin_textos() && otro.sin_textos() && numeradas_ == otro.numeradas_;
     if (!iguales && sin_textos()) empaqueta();
     if (!iguales) asegura(otro.bloque_ ? otro.usados() : static_cast<std::uint32_t>(otro.filas_));

@@ -105,9 +105,15 @@ public:
     /// Sets a cell of a packed chunk; `celda.bytes()` lies outside of it. Column beyond the stored ones: the
     /// row grows up to it.
     void pon(int i, int col, const CeldaGuardada& celda);
-    /// Sets a cell beyond the stored ones of the row written last, where there is room for it: the quick way of
-    /// filling row after row. False: no such cell, and nothing is done. The text may lie anywhere; `col` > 0.
+    /// Sets a cell behind the last text of the row written last, or of the empty one below it: the quick way of
+    /// filling row after row. Such a row stays open: it has room for the lengths of as many columns as the row
+    /// above it, until `cierra`. False: no such cell, and no text is changed. `col` > 0.
     bool anexa(int i, int col, std::string_view texto);
+    /// The open row gives back the room it did not need. Every other change of the chunk does this first.
+    void cierra() {
+        if (usadas_ != 0) cierra_fila();
+    }
+
     /// Replaces packed rows from `i` on by others; `finales` tells where each of them ends in `filas`.
     void pon_filas(int i, std::span<const std::uint8_t> filas, std::span<const std::uint32_t> finales);
     /// The bytes of a packed row.
@@ -128,7 +134,7 @@ public:
     /// Rows `i` and on (not all) leave to a new chunk.
     [[nodiscard]] Trozo separa(int i);
     /// The rows of `otro` come behind; together at most FILAS_POR_TROZO, or both are empty and alike.
-    void absorbe(const Trozo& otro);
+    void absorbe(Trozo& otro);
 
     [[nodiscard]] const Adornos* adornos() const { return adornos_.get(); }
 
@@ -158,6 +164,7 @@ private:
 
     // The gap comes to stand before row `i`.
     void mueve_hueco(int i) {
+        cierra();
         if (i != corte_) lleva_hueco(i);
     }
 
@@ -174,6 +181,10 @@ private:
         int i, const CabeceraFila& c, std::uint32_t col, std::string_view bytes, std::uint8_t longitud);
     void alarga(int i, CabeceraFila c, std::uint32_t col, std::string_view bytes, std::uint8_t longitud);
     void acorta(int i, CabeceraFila c, std::uint32_t columnas);
+    bool pasa_a_vacia(int i);
+    bool abre(std::uint32_t columna, std::string_view texto);
+    bool hay_sitio(std::uint32_t mas, std::string_view texto);
+    void cierra_fila();
     void revisa_largos(int i);
     void anexa_filas(const Trozo& otro);
     void quita_adornos_vacios();
@@ -187,6 +198,8 @@ private:
     std::uint32_t hueco_ini_ = 0; // the gap; it begins where row corte_ - 1 ends
     std::uint32_t hueco_fin_ = 0;
     int corte_ = 0; // rows before this one stand before the gap
+    std::uint32_t usadas_ =
+        0; // columns up to the last text of the open row, which is that before the gap; else 0
     int filas_;
     bool numeradas_; // of a chunk without texts
 };

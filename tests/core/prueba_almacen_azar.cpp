@@ -28,9 +28,9 @@ public:
         if (modelo_.columnas == 0) pon_columnas(uno_a(medida_.columnas));
         if (modelo_.n_filas() == 0) pon_filas(uno_a(medida_.filas));
         static constexpr void (Gemelos::*PASOS[])() = {&Gemelos::escribe, &Gemelos::escribe,
-            &Gemelos::escribe, &Gemelos::escribe_seguido, &Gemelos::copia_celda, &Gemelos::vacia,
-            &Gemelos::escribe_fila, &Gemelos::escribe_fila, &Gemelos::inserta_una, &Gemelos::inserta,
-            &Gemelos::borra_una, &Gemelos::borra, &Gemelos::borra_varias, &Gemelos::anade,
+            &Gemelos::escribe, &Gemelos::escribe_seguido, &Gemelos::llena_filas, &Gemelos::copia_celda,
+            &Gemelos::vacia, &Gemelos::escribe_fila, &Gemelos::escribe_fila, &Gemelos::inserta_una,
+            &Gemelos::inserta, &Gemelos::borra_una, &Gemelos::borra, &Gemelos::borra_varias, &Gemelos::anade,
             &Gemelos::cambia_cuentas, &Gemelos::numera, &Gemelos::transforma, &Gemelos::pinta_texto,
             &Gemelos::pinta_fondo, &Gemelos::pinta_todo, &Gemelos::pon_alto};
         lee_unas();
@@ -113,6 +113,23 @@ private:
         const int desde = una_fila();
         const int c = una_col();
         for (int f = desde; f < std::min(desde + 50, modelo_.n_filas()); ++f) pon(f, c, un_texto(f));
+    }
+
+    // Row after row from left to right, as hosts fill a table, with gaps; now and then from the cell before.
+    void llena_filas() {
+        const int desde = una_fila();
+        const int ancho = uno_a(modelo_.columnas);
+        for (int f = desde; f < std::min(desde + 20, modelo_.n_filas()); ++f) {
+            for (int c = 1; c < ancho; c += 1 + menor(2)) {
+                if (menor(6) != 0) {
+                    pon(f, c, un_texto(f));
+                    continue;
+                }
+                modelo_.pon_texto(f, c, modelo_.texto(f, c - 1));
+                almacen_.pon_texto(f, c, almacen_.texto(f, c - 1));
+            }
+            if (menor(4) == 0) compara_fila(f);
+        }
     }
 
     void copia_celda() { // from a view of the store itself
