@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 // Bytes: a block of bytes that is not zeroed before it is filled, for whole files. It grows in place where
-// the system can. Growing without memory: std::bad_alloc, unchanged. And pon_texto, which fills such a block.
+// the system can. Growing without memory: std::bad_alloc, unchanged. And pon_texto, which fills such a block;
+// TomaBytes and DaBytes: bytes that are never whole in memory.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
+#include <functional>
 #include <memory>
 #include <new>
 #include <string_view>
@@ -68,5 +70,12 @@ Byte* pon_texto(Byte* destino, std::string_view texto) {
     }
     return destino + n;
 }
+
+/// Takes the next bytes of a run; they are good until it returns.
+using TomaBytes = std::function<void(std::string_view)>;
+
+/// Hands a run of bytes over in pieces of any size, from the first to the last; the same ones each time it is
+/// called.
+using DaBytes = std::function<void(const TomaBytes&)>;
 
 } // namespace Qlt4_Tabla

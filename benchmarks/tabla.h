@@ -21,13 +21,19 @@ namespace Qlt4_Tabla::medida {
 /// The files of the machine, without waiting for the disk.
 class FicherosSinVaciar final : public Ficheros {
 public:
-    [[nodiscard]] Bytes lee(std::string_view nombre) const override { return disco_.lee(nombre); }
+    [[nodiscard]] std::unique_ptr<FicheroAbierto> abre(std::string_view nombre) const override {
+        return disco_.abre(nombre);
+    }
 
-    void escribe_al_inicio(std::string_view nombre, std::string_view bytes) override {
+    void escribe_al_inicio(std::string_view nombre, const DaBytes& bytes) override {
         const std::filesystem::path ruta(nombre);
         const bool existe = std::filesystem::exists(ruta);
         FicheroNativo f(ruta, existe ? FicheroNativo::Modo::Cambia : FicheroNativo::Modo::Nuevo);
-        f.escribe(0, bytes);
+        std::uint64_t escritos = 0;
+        bytes([&](std::string_view seguidos) {
+            f.escribe(escritos, seguidos);
+            escritos += seguidos.size();
+        });
         f.cierra();
     }
 

@@ -81,6 +81,8 @@ AlmacenCeldas::AlmacenCeldas() : yo_(std::make_unique<Interior>()) {}
 
 AlmacenCeldas::~AlmacenCeldas() = default;
 
+AlmacenCeldas::AlmacenCeldas(AlmacenCeldas&& otro) noexcept = default;
+
 void AlmacenCeldas::pon_filas(int n) {
     const int hay = filas_;
     if (n > hay)
@@ -108,10 +110,15 @@ std::string_view AlmacenCeldas::busca_texto(int fila, int col) const {
 }
 
 void AlmacenCeldas::lee_fila(int fila, int col, std::span<std::string_view> textos) const {
+    if (textos.empty()) return;
     const LugarFila l = yo_->indice.busca(fila);
+    if (col == 0) {
+        textos.front() = yo_->texto(l.trozo->celda(l.i, 0), fila, yo_->cifras);
+        textos = textos.subspan(1);
+        col = 1;
+    }
     CeldasDeFila celdas = l.trozo->celdas(l.i, col);
     for (std::string_view& t : textos) t = yo_->texto(celdas.siguiente(), fila, yo_->cifras);
-    if (col == 0 && !textos.empty()) textos.front() = yo_->texto(l.trozo->celda(l.i, 0), fila, yo_->cifras);
 }
 
 bool AlmacenCeldas::iguales(int fila1, int col1, int fila2, int col2) const {
@@ -281,6 +288,19 @@ FilasCambiadas AlmacenCeldas::pon_filas(int desde, int hasta, int col, const Tex
         desde, hasta, paso, [&](int fila) { return anota(yo_->escribe_fila(fila, col, textos)); });
     cambiadas.columnas = static_cast<int>(columnas);
     return cambiadas;
+}
+
+void AlmacenCeldas::toma(AlmacenCeldas&& otro) {
+    const int columnas = otro.filas_ == 0 || filas_ == 0 ? 0 : std::min(columnas_, otro.columnas_);
+    for (int col = 0; col < columnas; ++col) {
+        otro.pon_color_texto(0, col, 0, col, color_texto(0, col));
+        if (tiene_fondo(0, col)) otro.pon_color_fondo(0, col, 0, col, color_fondo(0, col));
+    }
+    if (columnas != 0) otro.pon_alto(0, alto(0));
+    yo_ = std::move(otro.yo_);
+    filas_ = otro.filas_;
+    columnas_ = otro.columnas_;
+    leida_ = {};
 }
 
 // Rows

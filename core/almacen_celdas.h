@@ -54,6 +54,8 @@ class TABLA_API AlmacenCeldas {
 public:
     AlmacenCeldas();
     ~AlmacenCeldas();
+    /// The other one may only be destroyed.
+    AlmacenCeldas(AlmacenCeldas&& otro) noexcept;
     AlmacenCeldas(const AlmacenCeldas&) = delete;
     AlmacenCeldas& operator=(const AlmacenCeldas&) = delete;
 
@@ -87,6 +89,10 @@ public:
     FilasCambiadas transforma(int col, int desde, int hasta, const CambioCelda& cambia);
     /// Are the texts of two cells equal? Safe for two row numbers.
     [[nodiscard]] bool iguales(int fila1, int col1, int fila2, int col2) const;
+
+    /// Takes all rows and columns of another store, which may only be destroyed then. Of what this one held, the
+    /// colours and the height of row 0 stay.
+    void toma(AlmacenCeldas&& otro);
 
     /// Inserts `n` empty, unnumbered rows before row `fila` (0..filas()).
     void inserta(int fila, int n);

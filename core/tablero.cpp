@@ -156,6 +156,13 @@ void Tablero::pon_filas(const Bloque& b, const TextosDeFila& da) {
     });
 }
 
+void Tablero::pon_celdas(AlmacenCeldas&& celdas) {
+    if (celdas.filas() != Rows() || celdas.columnas() != Cols()) fuera();
+    anota_escritas(0, Rows() - 1, 0, Cols() - 1);
+    con_memoria([&] { almacen_.toma(std::move(celdas)); });
+    avisa({0, 0, Rows() - 1, Cols() - 1});
+}
+
 void Tablero::transforma_columna(int col, int desde, int hasta, const CambioCelda& cambia) {
     escribe_bloque({desde, col, hasta, col}, [&] {
         anota_escritas(desde, hasta, col, col);

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
-// The record goes straight into one block that grows by half: files/escritor_tb0.h.
+// The record goes away in pieces that stay in the processor's caches: files/escritor_tb0.h.
 #include "files/escritor_tb0.h"
 
 #include "base/error.h"
 #include "files/formato_tb0.h"
 #include "files/texto_1252.h"
 
-#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <span>
@@ -18,11 +17,13 @@ namespace {
 
 class Escritor {
 public:
+    explicit Escritor(const TomaBytes& toma) : toma_(toma) {}
+
     /// Room for so many bytes more, which the calls below then take without asking.
     void asegura(std::size_t mas) {
-        const std::size_t hacen_falta = usados_ + mas;
-        if (hacen_falta <= bytes_.capacity()) return;
-        bytes_.reserve(std::max(hacen_falta, bytes_.capacity() + bytes_.capacity() / 2));
+        if (usados_ + mas <= bytes_.size()) return;
+        entrega();
+        if (mas > bytes_.size()) bytes_.resize(mas);
     }
 
     void pon16(std::uint16_t n) {
@@ -52,15 +53,15 @@ public:
         pon32(tb0::LIMITE_INFERIOR);
     }
 
-    [[nodiscard]] Bytes acaba() && {
-        bytes_.resize(usados_);
-        return std::move(bytes_);
-    }
+    void entrega() { toma_(bytes_.vista().substr(0, std::exchange(usados_, 0))); }
 
 private:
+    static constexpr std::size_t PIEZA = std::size_t{1} << 17U;
+
     [[nodiscard]] char* sitio() { return bytes_.data() + usados_; }
 
-    Bytes bytes_;
+    const TomaBytes& toma_;
+    Bytes bytes_{PIEZA};
     std::size_t usados_ = 0;
 };
 
@@ -88,13 +89,13 @@ void pon_formato(Escritor& e, const T_FormatoColumna& f) {
 
 } // namespace
 
-Bytes escribe_tb0(
-    const Tablero& tablero, std::string_view subtitulo, const T_FormatoColumna& formato25, Avance avance) {
+void escribe_tb0(const Tablero& tablero, std::string_view subtitulo, const T_FormatoColumna& formato25,
+    const TomaBytes& toma, Avance avance) {
     const int filas = tablero.Rows();
     const int columnas = tablero.Cols();
     if (filas < 1 || columnas < 1 || columnas > MAX_COLUMNAS) lanza(NumError::Subindice);
 
-    Escritor e;
+    Escritor e(toma);
     pon_con_sitio(e, subtitulo);
     e.asegura(2 * tb0::BYTES_CUENTA + tb0::BYTES_MATRIZ);
     e.pon32(columnas - 1);
@@ -110,7 +111,13 @@ Bytes escribe_tb0(
     const T_FormatoColumna vacio;
     for (std::size_t i = 0; i < tb0::FORMATOS; ++i)
         pon_formato(e, i == tb0::FORMATO_GUARDADO ? formato25 : vacio);
-    return std::move(e).acaba();
+    e.entrega();
+}
+
+std::string bytes_tb0(const Tablero& tablero, std::string_view subtitulo, const T_FormatoColumna& formato25) {
+    std::string todos;
+    escribe_tb0(tablero, subtitulo, formato25, [&todos](std::string_view seguidos) { todos += seguidos; });
+    return todos;
 }
 
 } // namespace Qlt4_Tabla

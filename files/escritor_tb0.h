@@ -7,14 +7,19 @@
 #include "core/formato_columna.h"
 #include "core/tablero.h"
 
+#include <string>
 #include <string_view>
 
 namespace Qlt4_Tabla {
 
-/// The whole record: every cell of the grid, header and row numbers included, and the format of column 25.
-/// Error 9: more than 26 columns, no column or no row; error 5: a text of more than 65,535 bytes.
+/// Gives the whole record to `toma`: every cell of the grid, header and row numbers included, and the format of
+/// column 25. Error 9: more than 26 columns, no column or no row; error 5: a text of more than 65,535 bytes.
 /// `avance` counts the data rows.
-[[nodiscard]] Bytes escribe_tb0(const Tablero& tablero, std::string_view subtitulo,
-    const T_FormatoColumna& formato25, Avance avance = {});
+void escribe_tb0(const Tablero& tablero, std::string_view subtitulo, const T_FormatoColumna& formato25,
+    const TomaBytes& toma, Avance avance = {});
+
+/// The same record as one run of bytes.
+[[nodiscard]] std::string bytes_tb0(
+    const Tablero& tablero, std::string_view subtitulo, const T_FormatoColumna& formato25);
 
 } // namespace Qlt4_Tabla

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
-// Reading of a table file's bytes: the whole record is checked first, then its rows are given one after
-// another. Nothing is believed: every count is held against the bytes that are there, and nothing larger
-// than they is ever asked for. Main names: examina_tb0, RegistroTb0, FalloTb0, FilasTb0.
+// Reading of a table file from its first to its last byte, a piece at a time: the part in front of the rows, each
+// row, the part behind them. Nothing is believed: every count is held against the bytes that are there, and
+// nothing larger than they is ever asked for. Main names: LectorTb0, RegistroTb0, FalloTb0, examina_tb0.
 // The bytes: docs/formato_tb0.md; written by files/escritor_tb0.h.
 #pragma once
 
 #include "base/error.h"
 #include "core/formato_columna.h"
 #include "files/formato_tb0.h"
+#include "files/ventana_fichero.h"
 
 #include <array>
 #include <cstddef>
@@ -19,13 +20,12 @@
 
 namespace Qlt4_Tabla {
 
-/// A record that is whole and right.
+/// A record without its rows.
 struct RegistroTb0 {
     std::string subtitulo; ///< as stored, in UTF-8
     std::int32_t filas = 0; ///< header included; at least 1
     std::int32_t columnas = 0; ///< row numbers included; 1 to 26
-    std::size_t inicio_filas = 0; ///< byte at which the first row begins
-    std::size_t bytes = 0; ///< of the whole record; a file may hold more behind it
+    std::uint64_t bytes = 0; ///< of the whole record; a file may hold more behind it
     std::array<T_FormatoColumna, tb0::FORMATOS> formatos;
 };
 
@@ -57,7 +57,7 @@ enum class DefectoTb0 {
 struct FalloTb0 {
     ParteTb0 parte = ParteTb0::Subtitulo;
     DefectoTb0 defecto = DefectoTb0::Falta;
-    std::size_t posicion = 0; ///< byte at which the part, or what is missing of it, begins
+    std::uint64_t posicion = 0; ///< byte at which the part, or what is missing of it, begins
     std::int32_t fila = -1;
     std::int32_t col = -1;
     std::int64_t hallado = 0; ///< the number found; of a part that is missing: the bytes it would take
@@ -69,31 +69,51 @@ struct FalloTb0 {
     }
 };
 
-/// Checks the record at the beginning of the bytes from its first to its last byte.
-[[nodiscard]] std::variant<RegistroTb0, FalloTb0> examina_tb0(std::string_view bytes);
-
-/// The rows of a checked record, header first. The bytes and the record must outlive it.
-class FilasTb0 {
+/// Reads the record at the beginning of a file, which must outlive it. What is wrong is thrown as a FalloTb0; an
+/// error of the file passes. Nothing may be asked for after either.
+class LectorTb0 {
 public:
-    FilasTb0(std::string_view bytes, const RegistroTb0& registro)
-        : bytes_(bytes),
-          pos_(registro.inicio_filas),
-          columnas_(static_cast<std::size_t>(registro.columnas)) {}
+    /// `pieza`: bytes read at a time; more for a part that is longer.
+    explicit LectorTb0(FicheroAbierto& fichero, std::size_t pieza = PIEZA) : ventana_(fichero, pieza) {}
 
-    /// The texts of the next row in UTF-8, good until the next call. There must be one.
+    /// The part in front of the rows: subtitle and counts. The first call.
+    const RegistroTb0& cabeza();
+
+    /// The texts of the next row in UTF-8, header first, good until the next call. There must be one.
     [[nodiscard]] std::span<const std::string_view> siguiente();
 
-    /// Byte at which the next row begins.
-    [[nodiscard]] std::size_t posicion() const { return pos_; }
+    /// The part behind the rows, formats and size: the record is whole and right. The last call.
+    const RegistroTb0& final();
+
+    /// Byte at which the next part begins.
+    [[nodiscard]] std::uint64_t posicion() const { return ventana_.posicion(); }
 
 private:
+    static constexpr std::size_t PIEZA = std::size_t{1} << 17U;
+
+    [[noreturn]] void falla(ParteTb0 parte, DefectoTb0 defecto, std::uint64_t posicion,
+        std::int64_t hallado = 0, std::int64_t esperado = 0) const;
+    void exige_bytes(std::size_t n, ParteTb0 parte);
+    template <class T>
+    T numero(ParteTb0 parte);
+    std::string_view texto(ParteTb0 parte);
+    std::int32_t cuenta(ParteTb0 parte, std::int32_t maximo);
+    void exige(ParteTb0 parte, std::int64_t hallado, std::size_t bytes, std::int64_t esperado) const;
+    void matriz(ParteTb0 parte, std::int64_t elementos);
+    void caben_las_filas() const;
+    [[nodiscard]] std::size_t pasa_textos();
+    T_FormatoColumna formato();
     void convierte();
 
-    std::string_view bytes_;
-    std::size_t pos_;
-    std::size_t columnas_;
+    VentanaFichero ventana_;
+    RegistroTb0 registro_;
+    std::int32_t fila_ = -1;
+    std::int32_t col_ = -1;
     std::array<std::string_view, MAX_COLUMNAS> textos_;
     std::string convertidos_; // the texts of a row that is not all ASCII
 };
+
+/// Checks the record at the beginning of the bytes from its first to its last byte.
+[[nodiscard]] std::variant<RegistroTb0, FalloTb0> examina_tb0(std::string_view bytes);
 
 } // namespace Qlt4_Tabla

@@ -4,8 +4,8 @@
 
 #include "base/utf8.h"
 #include "core/avance.h"
+#include "core/con_memoria.h"
 #include "core/formatos.h"
-#include "core/numeracion.h"
 #include "core/reloj_de_arena.h"
 #include "core/superficie.h"
 #include "files/escritor_tb0.h"
@@ -14,25 +14,51 @@
 #include "files/textos.h"
 
 #include <algorithm>
-#include <variant>
+#include <utility>
 
 namespace Qlt4_Tabla {
 
 namespace {
 
 struct Leido {
-    Bytes bytes;
     RegistroTb0 registro;
+    AlmacenCeldas celdas;
 };
 
+/// Every row gets its own number, whatever stands in column 0 of the file.
+void lee_celdas(LectorTb0& lector, const RegistroTb0& r, AlmacenCeldas& celdas, Avance avance) {
+    celdas.pon_columnas(r.columnas);
+    celdas.pon_filas(r.filas);
+    celdas.numera();
+    celdas.pon_fila(0, 0, lector.siguiente());
+    celdas.pon_filas(1, r.filas - 1, 1, [&](int fila) {
+        avance.hasta(fila - 1);
+        return lector.siguiente().subspan(1);
+    });
+    avance.hasta(r.filas - 1);
+}
+
+/// The whole record, checked.
+void lee_registro(const EstadoTabla& e, LectorTb0& lector, Leido& leido) {
+    const RegistroTb0& r = lector.cabeza();
+    const bool demasiadas = std::int64_t{r.filas} * r.columnas > MAX_CELDAS;
+    if (demasiadas)
+        for (int fila = 0; fila < r.filas; ++fila) static_cast<void>(lector.siguiente());
+    else
+        lee_celdas(lector, r, leido.celdas, {e.plataforma.mensajes, textos::leyendo, r.filas - 1});
+    leido.registro = lector.final();
+    if (demasiadas) lanza(NumError::SinMemoria);
+}
+
 Leido lee_y_examina(const EstadoTabla& e, std::string_view nombre) {
+    const auto fichero = e.plataforma.ficheros.abre(nombre);
+    LectorTb0 lector(*fichero);
     Leido leido;
-    leido.bytes = e.plataforma.ficheros.lee(nombre);
-    auto examen = examina_tb0(leido.bytes.vista());
-    if (const auto* const fallo = std::get_if<FalloTb0>(&examen)) lanza(fallo->numero());
-    leido.registro = std::get<RegistroTb0>(std::move(examen));
-    if (std::int64_t{leido.registro.filas} * leido.registro.columnas > MAX_CELDAS)
-        lanza(NumError::SinMemoria);
+    try {
+        con_memoria([&] { lee_registro(e, lector, leido); });
+    } catch (const FalloTb0& fallo) {
+        lanza(fallo.numero());
+    }
     return leido;
 }
 
@@ -52,19 +78,6 @@ void da_formato_a_desconocidas(EstadoTabla& e) {
     }
 }
 
-/// Every row gets its own number, whatever stands in column 0 of the file.
-void pon_celdas(Tablero& t, const Leido& leido, Avance avance) {
-    FilasTb0 filas(leido.bytes.vista(), leido.registro);
-    t.pon_fila(0, 0, filas.siguiente());
-    Numera_Filas(t);
-    if (leido.registro.columnas == 1) return;
-    t.pon_filas({1, 1, leido.registro.filas - 1, leido.registro.columnas - 1}, [&](int fila) {
-        avance.hasta(fila - 1);
-        return filas.siguiente().subspan(1);
-    });
-    avance.hasta(leido.registro.filas - 1);
-}
-
 class Redibujo {
 public:
     explicit Redibujo(Tablero& t) : tablero_(t) { tablero_.Redraw(false); }
@@ -78,7 +91,7 @@ private:
     Tablero& tablero_;
 };
 
-void pon_en_tabla(EstadoTabla& e, const Leido& leido) {
+void pon_en_tabla(EstadoTabla& e, Leido& leido) {
     Tablero& t = e.tablero;
     const Redibujo redibujo(t);
     e.Formatos[tb0::FORMATO_GUARDADO] = leido.registro.formatos[tb0::FORMATO_GUARDADO];
@@ -86,7 +99,7 @@ void pon_en_tabla(EstadoTabla& e, const Leido& leido) {
     t.Cols(leido.registro.columnas);
     t.Rows(leido.registro.filas);
     da_formato_a_desconocidas(e);
-    pon_celdas(t, leido, {e.plataforma.mensajes, textos::leyendo, leido.registro.filas - 1});
+    t.pon_celdas(std::move(leido.celdas));
     const int fila = std::min(1, t.Rows() - 1);
     const int col = std::min(1, t.Cols() - 1);
     t.selecciona(fila, col, fila, col);
@@ -109,7 +122,7 @@ std::string prefijo(const EstadoTabla& e, std::string_view que) {
 
 void lee_tabla(EstadoTabla& e, std::string_view nombre, const std::function<void()>& al_cambiar) {
     const RelojDeArena reloj(e);
-    const Leido leido = lee_y_examina(e, nombre);
+    Leido leido = lee_y_examina(e, nombre);
     al_cambiar();
     pon_en_tabla(e, leido);
 }
@@ -117,7 +130,7 @@ void lee_tabla(EstadoTabla& e, std::string_view nombre, const std::function<void
 void lee_tabla_propia(EstadoTabla& e, std::string_view nombre, const std::function<void()>& al_cambiar) {
     {
         const RelojDeArena reloj(e);
-        const Leido leido = lee_y_examina(e, nombre);
+        Leido leido = lee_y_examina(e, nombre);
         // Compared as a file can hold it, so that a table always knows what it wrote itself.
         if (utf8::sin_blancos(leido.registro.subtitulo) == en_fichero(e.nombres.subtitulo())) {
             al_cambiar();
@@ -135,9 +148,9 @@ void lee_tabla_propia(EstadoTabla& e, std::string_view nombre, const std::functi
 void graba_tabla(EstadoTabla& e, std::string_view nombre) {
     const RelojDeArena reloj(e);
     const Avance avance(e.plataforma.mensajes, textos::guardando, e.tablero.Rows() - 1);
-    const Bytes bytes =
-        escribe_tb0(e.tablero, e.nombres.subtitulo(), e.Formatos[tb0::FORMATO_GUARDADO], avance);
-    e.plataforma.ficheros.escribe_al_inicio(nombre, bytes.vista());
+    e.plataforma.ficheros.escribe_al_inicio(nombre, [&](const TomaBytes& toma) {
+        escribe_tb0(e.tablero, e.nombres.subtitulo(), e.Formatos[tb0::FORMATO_GUARDADO], toma, avance);
+    });
     e.Modificado = 0;
 }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Whole tables from and to files. A file is read and checked whole before anything of the table changes; a
-// table is made into bytes whole before the file is touched. Errors (53 to 76 of the files, 62 and 9 of a
+// file that is written is the old one until the last byte of the new one is made. Errors (53 to 76 of the files, 62 and 9 of a
 // record that is not right, 5 and 9 of a table that cannot be written) are raised; the boundary shows them
 // with the frames below. The hourglass shows meanwhile.
 #pragma once

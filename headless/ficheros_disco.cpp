@@ -73,6 +73,23 @@ decltype(auto) con_numeros(const fs::path& ruta, Accion accion, Trabajo&& trabaj
     }
 }
 
+class AbiertoDelDisco final : public FicheroAbierto {
+public:
+    explicit AbiertoDelDisco(const fs::path& ruta) : ruta_(ruta), fichero_(ruta, FicheroNativo::Modo::Lee) {}
+
+    [[nodiscard]] std::uint64_t tamano() const override {
+        return con_numeros(ruta_, Accion::Lee, [this] { return fichero_.tamano(); });
+    }
+
+    [[nodiscard]] std::size_t lee(std::uint64_t lugar, char* destino, std::size_t n) override {
+        return con_numeros(ruta_, Accion::Lee, [&] { return fichero_.lee(lugar, destino, n); });
+    }
+
+private:
+    fs::path ruta_;
+    FicheroNativo fichero_;
+};
+
 /// The file behind a chain of links; the last one need not exist.
 fs::path tras_enlaces(fs::path ruta) {
     for (int i = 0; i < MAX_ENLACES; ++i) {
@@ -153,20 +170,15 @@ void escribe_piezas(FicheroNativo& f, std::uint64_t lugar, std::string_view byte
 
 } // namespace
 
-Bytes FicherosDisco::lee(std::string_view nombre) const {
+std::unique_ptr<FicheroAbierto> FicherosDisco::abre(std::string_view nombre) const {
     const fs::path ruta = ruta_de(nombre);
     return con_numeros(ruta, Accion::Lee, [&] {
         if (!existe_fichero(ruta)) falla(std::errc::no_such_file_or_directory);
-        FicheroNativo f(ruta, FicheroNativo::Modo::Lee);
-        const std::uint64_t tamano = f.tamano();
-        if (tamano > SIZE_MAX) falla(std::errc::not_enough_memory);
-        Bytes bytes(static_cast<std::size_t>(tamano));
-        bytes.resize(f.lee(0, bytes.data(), bytes.size()));
-        return bytes;
+        return std::make_unique<AbiertoDelDisco>(ruta);
     });
 }
 
-void FicherosDisco::escribe_al_inicio(std::string_view nombre, std::string_view bytes) {
+void FicherosDisco::escribe_al_inicio(std::string_view nombre, const DaBytes& bytes) {
     const fs::path dada = ruta_de(nombre);
     con_numeros(dada, Accion::Escribe, [&] {
         const fs::path ruta = tras_enlaces(dada);
@@ -178,7 +190,7 @@ void FicherosDisco::escribe_al_inicio(std::string_view nombre, std::string_view 
 }
 
 // False, and nothing changed, where it has to be written in place.
-bool FicherosDisco::reemplaza(const fs::path& ruta, bool existe, std::string_view bytes) {
+bool FicherosDisco::reemplaza(const fs::path& ruta, bool existe, const DaBytes& bytes) {
     std::optional<Temporal> temporal;
     try {
         paso(Paso::CreaTemporal);
@@ -190,11 +202,15 @@ bool FicherosDisco::reemplaza(const fs::path& ruta, bool existe, std::string_vie
         return false;
     }
     FicheroNativo& nuevo = temporal->fichero();
-    escribe_piezas(nuevo, 0, bytes, [this] { paso(Paso::Escribe); });
+    std::uint64_t escritos = 0;
+    bytes([&](std::string_view seguidos) {
+        escribe_piezas(nuevo, escritos, seguidos, [this] { paso(Paso::Escribe); });
+        escritos += seguidos.size();
+    });
     if (existe) {
         FicheroNativo viejo(ruta, FicheroNativo::Modo::Lee);
         Bytes pieza;
-        for (std::uint64_t i = bytes.size(), fin = viejo.tamano(); i < fin; i += pieza.size()) {
+        for (std::uint64_t i = escritos, fin = viejo.tamano(); i < fin; i += pieza.size()) {
             pieza.resize(PIEZA);
             pieza.resize(viejo.lee(i, pieza.data(), PIEZA));
             if (pieza.size() == 0) break; // cut by another program meanwhile
@@ -217,8 +233,12 @@ bool FicherosDisco::reemplaza(const fs::path& ruta, bool existe, std::string_vie
     return true;
 }
 
-// The room is taken before anything is overwritten; after an error what stood there is put back.
-void FicherosDisco::escribe_en_sitio(const fs::path& ruta, std::string_view bytes) {
+// The bytes are there and the room is taken before anything is overwritten; after an error what stood there is put
+// back.
+void FicherosDisco::escribe_en_sitio(const fs::path& ruta, const DaBytes& da) {
+    std::string todos;
+    da([&todos](std::string_view seguidos) { todos += seguidos; });
+    const std::string_view bytes = todos;
     FicheroNativo f(ruta, FicheroNativo::Modo::Cambia);
     const std::uint64_t tamano = f.tamano();
     Bytes viejos(static_cast<std::size_t>(std::min<std::uint64_t>(tamano, bytes.size())));

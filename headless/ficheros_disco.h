@@ -16,8 +16,9 @@ namespace Qlt4_Tabla {
 
 class TABLA_API FicherosDisco : public Ficheros {
 public:
-    [[nodiscard]] Bytes lee(std::string_view nombre) const override;
-    void escribe_al_inicio(std::string_view nombre, std::string_view bytes) override;
+    [[nodiscard]] std::unique_ptr<FicheroAbierto> abre(std::string_view nombre) const override;
+    using Ficheros::escribe_al_inicio;
+    void escribe_al_inicio(std::string_view nombre, const DaBytes& bytes) override;
     [[nodiscard]] bool es_carpeta(std::string_view nombre) const override;
     [[nodiscard]] std::string carpeta_personal() const override;
 
@@ -39,8 +40,8 @@ protected:
     virtual void paso(Paso) {}
 
 private:
-    [[nodiscard]] bool reemplaza(const std::filesystem::path& ruta, bool existe, std::string_view bytes);
-    void escribe_en_sitio(const std::filesystem::path& ruta, std::string_view bytes);
+    [[nodiscard]] bool reemplaza(const std::filesystem::path& ruta, bool existe, const DaBytes& bytes);
+    void escribe_en_sitio(const std::filesystem::path& ruta, const DaBytes& bytes);
 };
 
 } // namespace Qlt4_Tabla

@@ -3,7 +3,6 @@
 #include "headless/ficheros_memoria.h"
 
 #include <algorithm>
-#include <cstring>
 #include <utility>
 
 namespace Qlt4_Tabla {
@@ -11,6 +10,26 @@ namespace Qlt4_Tabla {
 namespace {
 
 [[noreturn]] void lanza_numero(int numero) { throw Error(numero, std::string(descripcion_error(numero))); }
+
+// What a file held when it was opened.
+class AbiertoEnMemoria final : public FicheroAbierto {
+public:
+    AbiertoEnMemoria(std::string contenido, std::uint64_t legibles)
+        : contenido_(std::move(contenido)), legibles_(legibles) {}
+
+    [[nodiscard]] std::uint64_t tamano() const override { return contenido_.size(); }
+
+    [[nodiscard]] std::size_t lee(std::uint64_t lugar, char* destino, std::size_t n) override {
+        const std::size_t leidos = bytes_.lee(lugar, destino, n);
+        if (lugar + leidos > legibles_) lanza(NumError::ErrorES);
+        return leidos;
+    }
+
+private:
+    std::string contenido_;
+    std::uint64_t legibles_;
+    BytesAbiertos bytes_{contenido_};
+};
 
 } // namespace
 
@@ -38,25 +57,24 @@ void FicherosMemoria::comprueba_nombre(std::string_view nombre) const {
         lanza(NumError::SinRuta);
 }
 
-Bytes FicherosMemoria::lee(std::string_view nombre) const {
+std::unique_ptr<FicheroAbierto> FicherosMemoria::abre(std::string_view nombre) const {
     comprueba_nombre(nombre);
     const auto f = contenidos.find(nombre);
     if (f == contenidos.end()) lanza(NumError::SinFichero);
-    Bytes bytes(f->second.size());
-    if (bytes.size() != 0) std::memcpy(bytes.data(), f->second.data(), bytes.size());
-    return bytes;
+    return std::make_unique<AbiertoEnMemoria>(f->second, legibles);
 }
 
 void FicherosMemoria::da_paso() {
     if (++pasos == paso_malo_) lanza_numero(numero_);
 }
 
-void FicherosMemoria::escribe_al_inicio(std::string_view nombre, std::string_view bytes) {
+void FicherosMemoria::escribe_al_inicio(std::string_view nombre, const DaBytes& bytes) {
     comprueba_nombre(nombre);
     const auto viejo = contenidos.find(nombre);
-    std::string todo(bytes);
-    if (viejo != contenidos.end() && viejo->second.size() > bytes.size())
-        todo += std::string_view(viejo->second).substr(bytes.size());
+    std::string todo;
+    bytes([&todo](std::string_view pieza) { todo += pieza; });
+    if (viejo != contenidos.end() && viejo->second.size() > todo.size())
+        todo += std::string_view(viejo->second).substr(todo.size());
     const std::string nombre_temporal = std::string(nombre) + ".tmp";
     try {
         da_paso();

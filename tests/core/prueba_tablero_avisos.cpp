@@ -62,6 +62,25 @@ TEST_F(Avisos_de_rejilla, filas_de_distinto_ancho_avisan_hasta_la_mas_ancha_que_
     EXPECT_EQ(t.TextMatrix(4, 3), "z"); // beyond what is written
 }
 
+TEST_F(Avisos_de_rejilla, todas_las_celdas_de_una_vez) {
+    const auto celdas = [](int filas) {
+        AlmacenCeldas a;
+        a.pon_columnas(4);
+        a.pon_filas(filas);
+        a.numera();
+        a.pon_texto(2, 1, "dos");
+        return a;
+    };
+    t.TextMatrix(3, 1, "viejo");
+    vista.recoge();
+    EXPECT_EQ(de([&] { t.pon_celdas(celdas(6)); }), Avisos({"celdas 0 0 5 3"}));
+    EXPECT_EQ(t.TextMatrix(2, 1), "dos");
+    EXPECT_EQ(t.TextMatrix(3, 1), "");
+    EXPECT_EQ(t.TextMatrix(5, 0), "5");
+    EXPECT_THROW(t.pon_celdas(celdas(5)), Error);
+    EXPECT_EQ(t.TextMatrix(2, 1), "dos");
+}
+
 TEST_F(Avisos_de_rejilla, una_columna_que_se_transforma) {
     const auto en_3_y_4 = [](int fila, std::string_view, std::string& nuevo) {
         nuevo = "x";

@@ -67,15 +67,17 @@ private:
     std::string falta_en(std::string_view bytes, const RegistroTb0& r) const {
         const Tablero& t = e_.tablero;
         if (t.Rows() != r.filas || t.Cols() != r.columnas) return "other counts";
-        FilasTb0 filas(bytes, r);
+        BytesAbiertos fichero(bytes);
+        LectorTb0 filas(fichero);
+        filas.cabeza();
         static_cast<void>(filas.siguiente());
         for (int fila = 1; fila < r.filas; ++fila) {
             const auto textos = filas.siguiente();
             for (int col = 1; col < std::min(r.columnas, MAX_COLUMNAS - 1); ++col)
                 if (t.TextMatrix(fila, col) != textos[static_cast<std::size_t>(col)]) return "another text";
         }
-        const Bytes otra_vez = escribe_tb0(t, r.subtitulo, e_.Formatos[tb0::FORMATO_GUARDADO]);
-        const auto examen = examina_tb0(otra_vez.vista());
+        const std::string otra_vez = bytes_tb0(t, r.subtitulo, e_.Formatos[tb0::FORMATO_GUARDADO]);
+        const auto examen = examina_tb0(otra_vez);
         const auto* const r2 = std::get_if<RegistroTb0>(&examen);
         if (r2 == nullptr || r2->bytes != otra_vez.size()) return "what was read cannot be written";
         return r2->filas == r.filas && r2->columnas == r.columnas && r2->subtitulo == r.subtitulo

@@ -29,9 +29,11 @@ TEST(LectorTb0, un_registro_bueno) {
     EXPECT_EQ(r.subtitulo, "Ej");
     EXPECT_EQ(r.filas, 2);
     EXPECT_EQ(r.columnas, 2);
-    EXPECT_EQ(r.inicio_filas, 22U);
     EXPECT_EQ(r.bytes, 470U);
-    FilasTb0 filas(todo, r);
+    BytesAbiertos fichero(todo);
+    LectorTb0 filas(fichero);
+    EXPECT_EQ(filas.cabeza().filas, r.filas);
+    EXPECT_EQ(filas.posicion(), 22U);
     EXPECT_EQ(filas.siguiente()[1], "X");
     EXPECT_EQ(filas.posicion(), 37U);
     const auto segunda = filas.siguiente();
@@ -145,6 +147,66 @@ TEST(LectorTb0, dice_lo_hallado_y_lo_esperado) {
     const auto fallo = std::get<FalloTb0>(examina_tb0(bytes(SUBTITULO + CUENTAS + "01 00 03 00 00 00 00*9")));
     EXPECT_EQ(fallo.hallado, 3);
     EXPECT_EQ(fallo.esperado, 2);
+}
+
+/// Reads a record through a window of so many bytes: the texts of its rows, or what is wrong and where.
+std::string leido(std::string_view registro, std::size_t pieza) {
+    BytesAbiertos fichero(registro);
+    LectorTb0 lector(fichero, pieza);
+    std::string todo;
+    try {
+        const RegistroTb0& r = lector.cabeza();
+        todo = r.subtitulo;
+        for (int fila = 0; fila < r.filas; ++fila)
+            for (const std::string_view t : lector.siguiente()) (todo += '|') += t;
+        todo += lector.final().formatos[25].Nombre;
+    } catch (const FalloTb0& fallo) {
+        todo += "! part " + std::to_string(static_cast<int>(fallo.parte)) + " byte " +
+            std::to_string(fallo.posicion);
+    }
+    return todo;
+}
+
+TEST(LectorTb0, por_ventanas_de_cualquier_tamano_se_lee_lo_mismo) {
+    const std::string todo = bytes(BUENO);
+    EXPECT_EQ(leido(todo, 1), "Ej||X|1|7é");
+    for (std::size_t pieza = 1; pieza < todo.size() + 2; ++pieza)
+        EXPECT_EQ(leido(todo, pieza), "Ej||X|1|7é") << pieza;
+}
+
+TEST(LectorTb0, por_una_ventana_de_un_byte_se_hallan_los_mismos_fallos) {
+    const std::string todo = bytes(BUENO);
+    for (std::size_t n = 0; n < todo.size(); ++n) {
+        const auto cortado = std::string_view(todo).substr(0, n);
+        EXPECT_EQ(leido(cortado, 1), leido(cortado, todo.size())) << n;
+        std::string otro = todo;
+        otro[n] = static_cast<char>(otro[n] ^ 0x41);
+        EXPECT_EQ(leido(otro, 1), leido(otro, otro.size())) << n;
+    }
+}
+
+/// A file that is shorter than it said.
+class FicheroQueMengua final : public FicheroAbierto {
+public:
+    explicit FicheroQueMengua(std::string_view bytes) : bytes_(bytes) {}
+
+    [[nodiscard]] std::uint64_t tamano() const override { return bytes_.size(); }
+
+    [[nodiscard]] std::size_t lee(std::uint64_t lugar, char* destino, std::size_t n) override {
+        return BytesAbiertos(bytes_.substr(0, 40)).lee(lugar, destino, n);
+    }
+
+private:
+    std::string_view bytes_;
+};
+
+TEST(LectorTb0, un_fichero_que_mengua_mientras_se_lee_acaba_antes) {
+    const std::string todo = bytes(BUENO);
+    FicheroQueMengua fichero(todo);
+    LectorTb0 lector(fichero, 8);
+    lector.cabeza();
+    EXPECT_EQ(lector.siguiente()[1], "X");
+    EXPECT_THROW(static_cast<void>(lector.siguiente()), FalloTb0);
 }
 
 TEST(LectorTb0, cortado_en_cualquier_byte_falta_algo) {

@@ -32,7 +32,7 @@ std::string registro(
         for (const std::string& texto : textos) t.TextMatrix(fila, ++col, texto);
         ++fila;
     }
-    return std::string(escribe_tb0(t, "Puntos", formato25).vista());
+    return bytes_tb0(t, "Puntos", formato25);
 }
 
 std::vector<std::vector<std::string>> filas_de_csv(const std::string& ruta) {

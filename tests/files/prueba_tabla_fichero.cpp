@@ -67,6 +67,31 @@ TEST_F(PruebaFichero, de_una_tabla_larga_se_dice_cuanto_va) {
     EXPECT_EQ(n.p.registro.back(), "puntero 0");
 }
 
+TEST_F(PruebaFichero, si_el_disco_falla_a_media_lectura_la_tabla_se_queda_como_estaba) {
+    m.pon_tamano(3, 50'000);
+    static_cast<void>(m.graba("t"));
+    const std::string antes = m.foto_entera();
+    for (const std::uint64_t legibles : {0U, 100U, 500'000U}) {
+        m.p.ficheros.legibles = legibles;
+        EXPECT_EQ(m.lee("t"), 57) << legibles;
+        EXPECT_EQ(m.foto_entera(), antes) << legibles;
+    }
+    EXPECT_EQ(m.cambios, 0);
+}
+
+TEST_F(PruebaFichero, la_cabecera_conserva_sus_colores_y_su_alto) {
+    static_cast<void>(m.graba("t"));
+    m.t().color_texto({0, 1, 0, 1}, 0xFF);
+    m.t().color_fondo({0, 2, 0, 2}, 0);
+    m.t().color_fondo({1, 1, 1, 1}, 0xFF00);
+    m.t().RowHeight(0, 700);
+    EXPECT_EQ(m.lee("t"), 0);
+    EXPECT_EQ(m.t().color_texto(0, 1), 0xFF);
+    EXPECT_TRUE(m.t().tiene_fondo(0, 2));
+    EXPECT_FALSE(m.t().tiene_fondo(1, 1));
+    EXPECT_EQ(m.t().RowHeight(0), 700);
+}
+
 TEST_F(PruebaFichero, leer_lleva_a_la_primera_celda_sin_suceso) {
     otra();
     n.pon_tamano(8, 9);

@@ -99,6 +99,39 @@ TEST_F(PruebaDisco, tambien_cuando_pasa_de_una_pieza) {
     EXPECT_EQ(c.contenido("t"), nuevo + viejo.substr(nuevo.size()));
 }
 
+TEST_F(PruebaDisco, los_bytes_vienen_a_piezas_otra_vez_enteras_cuando_hay_que_escribir_en_sitio) {
+    c.pon("t", "viejo y largo");
+    int veces = 0;
+    const auto da = [&veces](const TomaBytes& toma) {
+        ++veces;
+        toma("nu");
+        toma("evo");
+    };
+    disco.escribe_al_inicio(c("t"), da);
+    EXPECT_EQ(c.contenido("t"), "nuevo y largo");
+    EXPECT_EQ(veces, 1);
+    DiscoConFallos sin_renombrar;
+    sin_renombrar.fallo_en = 6; // make, permissions, two pieces, flush, rename
+    sin_renombrar.fallo = std::errc::permission_denied;
+    c.pon("t", "viejo");
+    sin_renombrar.escribe_al_inicio(c("t"), da);
+    EXPECT_EQ(c.contenido("t"), "nuevo");
+    EXPECT_EQ(veces, 3);
+    EXPECT_THAT(c.nombres(), ElementsAre("t"));
+}
+
+TEST_F(PruebaDisco, lo_que_falta_a_medias_deja_el_viejo_o_nada) {
+    c.pon("t", "viejo");
+    const auto falta = [](const TomaBytes& toma) {
+        toma(std::string(2 * MEGA, 'n'));
+        lanza(NumError::LlamadaNoValida);
+    };
+    EXPECT_EQ(error_de([&] { disco.escribe_al_inicio(c("t"), falta); }), 5);
+    EXPECT_EQ(error_de([&] { disco.escribe_al_inicio(c("otro"), falta); }), 5);
+    EXPECT_EQ(c.contenido("t"), "viejo");
+    EXPECT_THAT(c.nombres(), ElementsAre("t"));
+}
+
 TEST_F(PruebaDisco, los_nombres_son_UTF8) {
     disco.escribe_al_inicio(c("años €.tb0"), "x");
     EXPECT_EQ(c.contenido("años €.tb0"), "x");

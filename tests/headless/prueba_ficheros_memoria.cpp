@@ -35,6 +35,34 @@ TEST_F(PruebaMemoria, escribe_al_inicio_y_deja_lo_de_detras) {
     EXPECT_EQ(f.lee("t").vista(), "abc3456789");
 }
 
+TEST_F(PruebaMemoria, los_bytes_pueden_venir_a_piezas_y_faltar_a_medias) {
+    f.escribe_al_inicio("t", [](const TomaBytes& toma) {
+        toma("abc");
+        toma("");
+        toma("de");
+    });
+    EXPECT_EQ(f.contenidos["t"], "abcde");
+    const auto falta = [](const TomaBytes& toma) {
+        toma("XYZ");
+        lanza(NumError::LlamadaNoValida);
+    };
+    EXPECT_EQ(error_de([&] { f.escribe_al_inicio("t", falta); }), 5);
+    EXPECT_EQ(f.contenidos["t"], "abcde");
+    EXPECT_EQ(f.contenidos.size(), 1U);
+}
+
+TEST_F(PruebaMemoria, lo_abierto_es_lo_que_habia_y_se_lee_por_partes) {
+    f.contenidos["t"] = "0123456789";
+    const auto abierto = f.abre("t");
+    f.contenidos.erase("t");
+    char letras[4] = {};
+    EXPECT_EQ(abierto->tamano(), 10U);
+    EXPECT_EQ(abierto->lee(3, letras, 3), 3U);
+    EXPECT_STREQ(letras, "345");
+    EXPECT_EQ(abierto->lee(8, letras, 3), 2U);
+    EXPECT_EQ(abierto->lee(10, letras, 3), 0U);
+}
+
 TEST_F(PruebaMemoria, los_errores_de_los_nombres) {
     EXPECT_EQ(al_leer("nada"), 53);
     EXPECT_EQ(al_leer(""), 75);

@@ -38,8 +38,8 @@ public:
         lee_texto();
         comprueba_subtitulo();
         llena();
-        const Bytes bytes = escribe_tb0(tablero_, opciones_.subtitulo, {});
-        escribe_fichero(entorno_.ficheros, opciones_.salida, bytes.vista());
+        const std::string bytes = bytes_tb0(tablero_, opciones_.subtitulo, {});
+        escribe_fichero(entorno_.ficheros, opciones_.salida, bytes);
         if (sin_codigo_ != 0)
             entorno_.errores << textos::antes_de_fallo << textos::aviso << sin_codigo_
                              << textos::aviso_no_caben;

@@ -91,7 +91,9 @@ void info(Entorno& entorno, const Opciones& o) {
     linea(textos::info_subtitulo, r.subtitulo);
     linea(textos::info_filas, std::to_string(r.filas - 1));
     linea(textos::info_columnas, std::to_string(r.columnas - 1));
-    FilasTb0 filas(tabla.bytes.vista(), r);
+    BytesAbiertos abierto(tabla.bytes.vista());
+    LectorTb0 filas(abierto);
+    filas.cabeza();
     int col = 0;
     for (const std::string_view nombre : filas.siguiente().subspan(1)) {
         const std::string numero = std::to_string(++col);
@@ -145,7 +147,9 @@ void a_texto(Entorno& entorno, const Opciones& o) {
     const Formato formato = o.formato.value_or(Formato::Tsv);
     const char separador = formato == Formato::Csv ? o.separador : '\t';
     const std::size_t primera_col = o.numeros ? 0 : 1;
-    FilasTb0 filas(tabla.bytes.vista(), tabla.registro);
+    BytesAbiertos abierto(tabla.bytes.vista());
+    LectorTb0 filas(abierto);
+    filas.cabeza();
     Progreso progreso(entorno.terminal, fichero);
     Destino destino(entorno.salida);
     std::string& texto = destino.texto;
