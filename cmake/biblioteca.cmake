@@ -73,5 +73,5 @@ target_link_libraries(qlt4_tabla_nucleo PRIVATE ${CMAKE_DL_LIBS})
 
 if(TARGET tabla_qt)
   tabla_biblioteca(qlt4_tabla Tabla qt)
-  target_link_libraries(qlt4_tabla PUBLIC qlt4_tabla_nucleo Qt6::Widgets PRIVATE Qt6::Svg)
+  target_link_libraries(qlt4_tabla PUBLIC qlt4_tabla_nucleo Qt6::Widgets)
 endif()

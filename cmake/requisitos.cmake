@@ -23,11 +23,11 @@ macro(tabla_exige paquete consejo)
 endmacro()
 
 if(TABLA_QT)
-  set(consejo "Install it (Debian: qt6-base-dev, qt6-svg-dev; scripts/instala does it), point CMAKE_PREFIX_PATH to it, \
+  set(consejo "Install it (Debian: qt6-base-dev; scripts/instala does it), point CMAKE_PREFIX_PATH to it, \
 or build without Qt: cmake --preset sin-qt, or -DTABLA_QT=OFF.")
-  tabla_exige(Qt6 "${consejo}" 6.4 COMPONENTS Widgets Svg)
+  tabla_exige(Qt6 "${consejo}" 6.4 COMPONENTS Widgets)
   if(TABLA_PRUEBAS)
-    tabla_exige(Qt6 "${consejo}" 6.4 COMPONENTS Widgets Svg Test)
+    tabla_exige(Qt6 "${consejo}" 6.4 COMPONENTS Widgets Test)
   endif()
 endif()
 if(TABLA_PRUEBAS)
