@@ -3,7 +3,8 @@
 
 One process a contestant, group of works, size and round, the contestants taking turns within a round. A figure
 is the median of the rounds, behind +- half the distance between the quarters, of processor time: on a busy
-machine the clock measures the others. Clock times stand in the JSON too.
+machine the clock measures the others. Clock times stand in the JSON too. Only a start is given by the clock as
+well: most of it is spent by the window system.
 """
 import argparse
 import datetime
@@ -13,6 +14,7 @@ import pathlib
 import statistics
 import subprocess
 import sys
+import time
 
 RAIZ = pathlib.Path(__file__).resolve().parent.parent
 MARCA = "<!-- figures of the last run -->\n"
@@ -51,7 +53,8 @@ OBRAS = [
     ("repinta", "repaint 1200 x 800", "ms", 1),
     ("rueda_pintada", "scroll by 3 rows, painted", "ms", 1),
     ("arrastra_pintado", "drag a width, painted", "ms", 1),
-    ("arranque", "start to the first painted window", "ms", 1),
+    ("arranque_espera", "start to the first painted window, by the clock", "ms", 1),
+    ("arranque", "the same, processor time", "ms", 1),
     ("arranque_letra", "the same, limit: a window with one letter", "ms", 1),
 ]
 
@@ -72,7 +75,8 @@ NOMBRES = ["this table", *PARES, "limit"]
 
 def corre(programa, quien, grupo, filas):
     """Figures of one process: name -> (processor, clock); those up to where it failed, which is told."""
-    hecho = subprocess.run([programa, quien, grupo, str(filas)], capture_output=True, text=True, check=False)
+    entorno = os.environ | {"MEDIDA_DESDE": str(time.monotonic() * 1000)}
+    hecho = subprocess.run([programa, quien, grupo, str(filas)], capture_output=True, text=True, check=False, env=entorno)
     if hecho.returncode != 0:
         print(f"\nFAILED: {programa.name} {quien} {grupo} {filas}: {hecho.stderr.strip() or hecho.returncode}", file=sys.stderr)
     lineas = (linea.split() for linea in hecho.stdout.splitlines())
