@@ -56,15 +56,20 @@ private:
     std::size_t cabida_ = 0;
 };
 
-/// Copies a text to `destino`; where it ends there. Quick where texts are short: one of 4 to 16 bytes is four copies of
-/// 4, which overlap where it has fewer, so that no branch depends on its size.
+/// Calls `pasa(place)` for four runs of 4 bytes that together are `n` bytes, 4 to 16; they overlap where there are
+/// fewer. So short texts are handled without a branch on their size.
+template <class Pasa>
+void por_cuartos(std::size_t n, const Pasa& pasa) {
+    const std::size_t paso = n / 8 * 4;
+    for (const std::size_t lugar : {std::size_t{0}, paso, n - 4 - paso, n - 4}) pasa(lugar);
+}
+
+/// Copies a text to `destino`; where it ends there. Quick where texts are short.
 template <class Byte>
 Byte* pon_texto(Byte* destino, std::string_view texto) {
     const std::size_t n = texto.size();
     if (n >= 4 && n <= 16) {
-        const std::size_t paso = n / 8 * 4;
-        for (const std::size_t lugar : {std::size_t{0}, paso, n - 4 - paso, n - 4})
-            std::memcpy(destino + lugar, texto.data() + lugar, 4);
+        por_cuartos(n, [&](std::size_t lugar) { std::memcpy(destino + lugar, texto.data() + lugar, 4); });
     } else if (n != 0) {
         std::memcpy(destino, texto.data(), n);
     }

@@ -3,6 +3,8 @@
 // only, nearly all, are copied. Single characters: base/pagina1252.h.
 #pragma once
 
+#include "base/bytes.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -21,12 +23,11 @@ inline bool copia_ascii(char* destino, const char* origen, std::size_t n) {
         std::memcpy(destino + i, &w, cuantos);
         suma |= w;
     };
-    if (n >= 8) { // the last eight may overlap those before them
+    if (n >= 4 && n <= 16) {
+        por_cuartos(n, [&](std::size_t lugar) { pasa(lugar, 4); });
+    } else if (n > 16) { // the last eight may overlap those before them
         for (std::size_t i = 0; i + 8 < n; i += 8) pasa(i, 8);
         pasa(n - 8, 8);
-    } else if (n >= 4) {
-        pasa(0, 4);
-        pasa(n - 4, 4);
     } else if (n != 0) {
         pasa(0, 1);
         pasa(n / 2, 1);
