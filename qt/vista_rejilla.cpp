@@ -8,11 +8,13 @@
 #include "qt/pintor_rejilla.h"
 #include "qt/teclas_qt.h"
 
+#include <QApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QTimerEvent>
 
 #include <algorithm>
 #include <utility>
@@ -353,8 +355,18 @@ void VistaRejilla::mouseMoveEvent(QMouseEvent* e) {
             viewport()->unsetCursor();
         return;
     }
-    const QPoint p = a_twips(e->position());
-    tabla_.mandos().raton_mueve(p.x(), p.y());
+    constexpr int CADA_MS = 50;
+    if (!arrastre_.isActive()) arrastre_.start(CADA_MS, this);
+    arrastrado_ = a_twips(e->position());
+    tabla_.mandos().raton_mueve(arrastrado_.x(), arrastrado_.y());
+}
+
+void VistaRejilla::timerEvent(QTimerEvent* e) {
+    if (e->timerId() != arrastre_.timerId()) return QAbstractScrollArea::timerEvent(e);
+    if (QApplication::mouseButtons() == Qt::NoButton) // released where nobody told us
+        arrastre_.stop();
+    else
+        tabla_.mandos().raton_mueve(arrastrado_.x(), arrastrado_.y());
 }
 
 void VistaRejilla::mouseReleaseEvent(QMouseEvent* e) {
@@ -362,6 +374,7 @@ void VistaRejilla::mouseReleaseEvent(QMouseEvent* e) {
         columna_en_mano_ = -1;
         return;
     }
+    arrastre_.stop();
     raton_ = e->globalPosition().toPoint();
     const QPoint p = a_twips(e->position());
     tabla_.mandos().raton_arriba(p.x(), p.y(), boton_de(e->button()));

@@ -11,6 +11,7 @@
 #include "qt/unidades.h"
 
 #include <QAbstractScrollArea>
+#include <QBasicTimer>
 
 namespace Qlt4_Tabla {
 
@@ -74,6 +75,7 @@ protected:
     void mouseMoveEvent(QMouseEvent* e) override;
     void mouseReleaseEvent(QMouseEvent* e) override;
     void mouseDoubleClickEvent(QMouseEvent* e) override;
+    void timerEvent(QTimerEvent* e) override;
     void wheelEvent(QWheelEvent* e) override;
     void scrollContentsBy(int dx, int dy) override;
 
@@ -110,6 +112,8 @@ private:
     int pedidos_ = 0; // pieces to be repainted since the last painting, and what moves cost
     bool a_medias_ = false; // some was painted while the grid kept its notices: moving would mix old and new
     QPoint raton_;
+    QPoint arrastrado_; // in twips, where the mouse was dragged last
+    QBasicTimer arrastre_; // while it is dragged: held beside the cells it goes on scrolling
     int columna_en_mano_ = -1; // column whose edge is dragged
     int agarre_ = 0; // where the mouse took the edge, less the width then
     int rueda_y_ = 0; // wheel steps of less than a notch, added up

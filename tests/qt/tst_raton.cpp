@@ -21,6 +21,7 @@ private slots:
     void fuera_de_las_celdas_no_cambia_nada();
     void el_boton_derecho_no_selecciona();
     void arrastrar_mas_alla_del_borde_desplaza();
+    void parado_mas_alla_del_borde_sigue_desplazando_hasta_que_se_suelta();
     void soltar_fuera_no_es_clic();
     void el_borde_de_una_columna_se_arrastra();
     void el_ancho_arrastrado_lo_lee_el_editor_de_columnas();
@@ -127,6 +128,21 @@ void TstRaton::arrastrar_mas_alla_del_borde_desplaza() {
     const int hasta = m.tablero().RowSel();
     manos::mueve(*v, m.centro(m.tablero().TopRow(), X)); // the button is up again
     QCOMPARE(m.tablero().RowSel(), hasta);
+}
+
+void TstRaton::parado_mas_alla_del_borde_sigue_desplazando_hasta_que_se_suelta() {
+    MesaQt m(200);
+    QWidget* v = m.vista->viewport();
+    manos::aprieta(*v, m.centro(3, NOMBRE));
+    const QPoint debajo(m.centro(3, NOMBRE).x(), v->height() + 5);
+    manos::mueve(*v, debajo);
+    const int fila = m.tablero().RowSel();
+    QTRY_VERIFY(m.tablero().RowSel() >= fila + 3);
+    manos::suelta(*v, debajo);
+    const int hasta = m.tablero().RowSel();
+    QTest::qWait(200);
+    QCOMPARE(m.tablero().RowSel(), hasta);
+    QCOMPARE(m.tablero().Row(), 3);
 }
 
 void TstRaton::soltar_fuera_no_es_clic() {
