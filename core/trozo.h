@@ -198,8 +198,8 @@ private:
     std::uint32_t hueco_ini_ = 0; // the gap; it begins where row corte_ - 1 ends
     std::uint32_t hueco_fin_ = 0;
     int corte_ = 0; // rows before this one stand before the gap
-    std::uint32_t usadas_ =
-        0; // columns up to the last text of the open row, which is that before the gap; else 0
+    // Columns up to the last text of the open row, which stands before the gap; 0 where none is open.
+    std::uint32_t usadas_ = 0;
     int filas_;
     bool numeradas_; // of a chunk without texts
 };
