@@ -67,8 +67,10 @@ function(tabla_carpeta nombre)
     tabla_comun(${objetivo})
     # The shared libraries are made of these objects and show only what TABLA_API marks.
     set_target_properties(${objetivo} PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
-    # Not in static libraries: only the compiler that made them could link them.
-    if(TABLA_ENLACE_OPTIMIZA AND BUILD_SHARED_LIBS AND NOT nombre STREQUAL "qt")
+    # Not in static libraries: only the compiler that made them could link them. Of the compilers only g++ links
+    # such objects without being told.
+    if(TABLA_ENLACE_OPTIMIZA AND BUILD_SHARED_LIBS AND NOT WIN32 AND CMAKE_COMPILER_IS_GNUCXX
+       AND NOT nombre STREQUAL "qt")
       set_target_properties(${objetivo} PROPERTIES INTERPROCEDURAL_OPTIMIZATION ON)
     endif()
   else()

@@ -206,6 +206,12 @@ bool AlmacenCeldas::pon_fila(int fila, int col, std::span<const std::string_view
 bool AlmacenCeldas::Interior::escribe_fila(int fila, int col, std::span<const std::string_view> textos) {
     if (textos.empty()) return false;
     const LugarFila l = indice.busca(fila);
+    const auto dentro = [&l](std::string_view t) { return l.trozo->contiene(t); };
+    if (l.trozo->abierta() && std::any_of(textos.begin(), textos.end(), dentro)) {
+        const std::vector<std::string> copias(textos.begin(), textos.end()); // closing the row moves them
+        l.trozo->cierra();
+        return escribe_fila(fila, col, std::vector<std::string_view>(copias.begin(), copias.end()));
+    }
     l.trozo->cierra();
     const std::array<std::uint8_t, 1 + RELLENO> sin_textos{
         l.trozo->numeradas() ? CabeceraFila::NUMERADA : std::uint8_t{0}};

@@ -79,10 +79,10 @@ public:
     /// True when the cell had another text. The text may be a view of this store.
     bool pon_texto(int fila, int col, std::string_view texto);
     /// Writes neighbouring cells of one row from column `col` on, in one go; the others stay. True when any
-    /// had another text.
+    /// had another text. The texts may be views of this store.
     bool pon_fila(int fila, int col, std::span<const std::string_view> textos);
-    /// The same for rows `desde`..`hasta` and a `col` above 0, in one pass: `da` gives the texts of each row, 1 or
-    /// more. If it throws, the rows before stay written.
+    /// The same for rows `desde`..`hasta` and a `col` above 0, in one pass: `da` gives the texts of each row, any
+    /// number. If it throws, the rows before stay written.
     FilasCambiadas pon_filas(int desde, int hasta, int col, const TextosDeFila& da);
     /// Rewrites column `col` of rows `desde`..`hasta` in one pass. If `cambia` throws, the rows before stay
     /// rewritten and nothing is lost.
@@ -91,7 +91,7 @@ public:
     [[nodiscard]] bool iguales(int fila1, int col1, int fila2, int col2) const;
 
     /// Takes all rows and columns of another store, which may only be destroyed then. Of what this one held, the
-    /// colours and the height of row 0 stay.
+    /// colours and the height of row 0 stay. Without memory nothing has changed here.
     void toma(AlmacenCeldas&& otro);
 
     /// Inserts `n` empty, unnumbered rows before row `fila` (0..filas()).

@@ -6,6 +6,7 @@
 #include "core/geometria.h"
 
 #include <algorithm>
+#include <climits>
 
 namespace Qlt4_Tabla {
 
@@ -156,11 +157,21 @@ void Tablero::pon_filas(const Bloque& b, const TextosDeFila& da) {
     });
 }
 
+// What needs memory comes first.
 void Tablero::pon_celdas(AlmacenCeldas&& celdas) {
-    if (celdas.filas() != Rows() || celdas.columnas() != Cols()) fuera();
-    anota_escritas(0, Rows() - 1, 0, Cols() - 1);
-    con_memoria([&] { almacen_.toma(std::move(celdas)); });
-    avisa({0, 0, Rows() - 1, Cols() - 1});
+    const int filas = celdas.filas();
+    const int columnas = celdas.columnas();
+    comprueba_tamano(filas, columnas);
+    con_memoria([&] {
+        columnas_.reserve(static_cast<std::size_t>(columnas));
+        almacen_.toma(std::move(celdas));
+    });
+    columnas_.resize(static_cast<std::size_t>(columnas));
+    imagenes_.borra_filas(1, INT_MAX - 1);
+    imagenes_.quita_columnas(columnas);
+    anota_escritas(0, filas - 1, 0, columnas - 1);
+    avisos_.todo_cambiado();
+    ajusta();
 }
 
 void Tablero::transforma_columna(int col, int desde, int hasta, const CambioCelda& cambia) {

@@ -95,7 +95,9 @@ public:
     /// The same for a block, from column 1 on, in one pass: `da(fila)` gives at most as many texts as it
     /// has columns, 1 or more; the cells behind them stay.
     void pon_filas(const Bloque& bloque, const TextosDeFila& da);
-    /// All texts anew, those of `celdas`, which has as many rows and columns and may only be destroyed then.
+    /// The rows and columns become those of `celdas`, which may only be destroyed then. Columns keep their widths and
+    /// what they merge; the header its colours, height and pictures. It is told as a change of everything. Without
+    /// memory, error 7, nothing has changed.
     void pon_celdas(AlmacenCeldas&& celdas);
     /// Rewrites a column's data cells in one pass and with one notice; see AlmacenCeldas::transforma.
     void transforma_columna(int col, int desde, int hasta, const CambioCelda& cambia);

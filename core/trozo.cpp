@@ -199,7 +199,7 @@ bool Trozo::anexa(int i, int col, std::string_view texto) {
     const auto columna = static_cast<std::uint32_t>(col);
     const auto bytes = static_cast<std::uint32_t>(texto.size());
     if (bytes == 0 || bytes >= LARGO) return false;
-    if (i + 1 != corte_ && !pasa_a_vacia(i)) return false;
+    if (i + 1 != corte_ && (contiene(texto) || !pasa_a_vacia(i))) return false;
     if (usadas_ == 0 ? !abre(columna, texto) : columna < usadas_) return false;
     if (columna >= *bytes_de(i) >> 2U || !hay_sitio(bytes, texto)) return false;
     datos()[inicio(i) + 1 + columna] = static_cast<std::uint8_t>(bytes);

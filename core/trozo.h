@@ -107,8 +107,11 @@ public:
     void pon(int i, int col, const CeldaGuardada& celda);
     /// Sets a cell behind the last text of the row written last, or of the empty one below it: the quick way of
     /// filling row after row. Such a row stays open: it has room for the lengths of as many columns as the row
-    /// above it, until `cierra`. False: no such cell, and no text is changed. `col` > 0.
+    /// above it, until `cierra`. False: no such cell, and nothing is moved that the text may lie in. `col` > 0.
     bool anexa(int i, int col, std::string_view texto);
+    /// Is a row open?
+    [[nodiscard]] bool abierta() const { return usadas_ != 0; }
+
     /// The open row gives back the room it did not need. Every other change of the chunk does this first.
     void cierra() {
         if (usadas_ != 0) cierra_fila();

@@ -89,12 +89,16 @@ void pon_formato(Escritor& e, const T_FormatoColumna& f) {
 
 } // namespace
 
+void exige_tb0(const Tablero& tablero) {
+    const int columnas = tablero.Cols();
+    if (tablero.Rows() < 1 || columnas < 1 || columnas > MAX_COLUMNAS) lanza(NumError::Subindice);
+}
+
 void escribe_tb0(const Tablero& tablero, std::string_view subtitulo, const T_FormatoColumna& formato25,
-    const TomaBytes& toma, Avance avance) {
+    const TomaBytes& toma, Avance& avance) {
+    exige_tb0(tablero);
     const int filas = tablero.Rows();
     const int columnas = tablero.Cols();
-    if (filas < 1 || columnas < 1 || columnas > MAX_COLUMNAS) lanza(NumError::Subindice);
-
     Escritor e(toma);
     pon_con_sitio(e, subtitulo);
     e.asegura(2 * tb0::BYTES_CUENTA + tb0::BYTES_MATRIZ);
@@ -116,7 +120,9 @@ void escribe_tb0(const Tablero& tablero, std::string_view subtitulo, const T_For
 
 std::string bytes_tb0(const Tablero& tablero, std::string_view subtitulo, const T_FormatoColumna& formato25) {
     std::string todos;
-    escribe_tb0(tablero, subtitulo, formato25, [&todos](std::string_view seguidos) { todos += seguidos; });
+    Avance nadie;
+    escribe_tb0(
+        tablero, subtitulo, formato25, [&todos](std::string_view seguidos) { todos += seguidos; }, nadie);
     return todos;
 }
 

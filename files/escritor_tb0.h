@@ -12,11 +12,13 @@
 
 namespace Qlt4_Tabla {
 
+/// Can the table be written? Error 9: more than 26 columns, no column or no row.
+void exige_tb0(const Tablero& tablero);
+
 /// Gives the whole record to `toma`: every cell of the grid, header and row numbers included, and the format of
-/// column 25. Error 9: more than 26 columns, no column or no row; error 5: a text of more than 65,535 bytes.
-/// `avance` counts the data rows.
+/// column 25. Errors as `exige_tb0`, and 5: a text of more than 65,535 bytes. `avance` counts the data rows.
 void escribe_tb0(const Tablero& tablero, std::string_view subtitulo, const T_FormatoColumna& formato25,
-    const TomaBytes& toma, Avance avance = {});
+    const TomaBytes& toma, Avance& avance);
 
 /// The same record as one run of bytes.
 [[nodiscard]] std::string bytes_tb0(

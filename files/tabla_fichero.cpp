@@ -94,12 +94,10 @@ private:
 void pon_en_tabla(EstadoTabla& e, Leido& leido) {
     Tablero& t = e.tablero;
     const Redibujo redibujo(t);
-    e.Formatos[tb0::FORMATO_GUARDADO] = leido.registro.formatos[tb0::FORMATO_GUARDADO];
-    t.Rows(1);
-    t.Cols(leido.registro.columnas);
-    t.Rows(leido.registro.filas);
-    da_formato_a_desconocidas(e);
     t.pon_celdas(std::move(leido.celdas));
+    t.TopRow(1);
+    e.Formatos[tb0::FORMATO_GUARDADO] = leido.registro.formatos[tb0::FORMATO_GUARDADO];
+    da_formato_a_desconocidas(e);
     const int fila = std::min(1, t.Rows() - 1);
     const int col = std::min(1, t.Cols() - 1);
     t.selecciona(fila, col, fila, col);
@@ -147,7 +145,8 @@ void lee_tabla_propia(EstadoTabla& e, std::string_view nombre, const std::functi
 
 void graba_tabla(EstadoTabla& e, std::string_view nombre) {
     const RelojDeArena reloj(e);
-    const Avance avance(e.plataforma.mensajes, textos::guardando, e.tablero.Rows() - 1);
+    exige_tb0(e.tablero);
+    Avance avance(e.plataforma.mensajes, textos::guardando, e.tablero.Rows() - 1);
     e.plataforma.ficheros.escribe_al_inicio(nombre, [&](const TomaBytes& toma) {
         escribe_tb0(e.tablero, e.nombres.subtitulo(), e.Formatos[tb0::FORMATO_GUARDADO], toma, avance);
     });

@@ -70,9 +70,9 @@ void FicherosMemoria::da_paso() {
 
 void FicherosMemoria::escribe_al_inicio(std::string_view nombre, const DaBytes& bytes) {
     comprueba_nombre(nombre);
-    const auto viejo = contenidos.find(nombre);
     std::string todo;
     bytes([&todo](std::string_view pieza) { todo += pieza; });
+    const auto viejo = contenidos.find(nombre);
     if (viejo != contenidos.end() && viejo->second.size() > todo.size())
         todo += std::string_view(viejo->second).substr(todo.size());
     const std::string nombre_temporal = std::string(nombre) + ".tmp";

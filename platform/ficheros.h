@@ -48,15 +48,17 @@ class TABLA_API Ficheros {
 public:
     virtual ~Ficheros() = default;
 
-    /// Opens a file for reading; the errors of reading it may also come later.
+    /// Opens a file for reading, which may stay open while the table tells how far it has come; never null. The errors
+    /// of reading may also come later.
     [[nodiscard]] virtual std::unique_ptr<FicheroAbierto> abre(std::string_view nombre) const = 0;
 
     /// A whole file. Error 7 too: more than there is memory for.
     [[nodiscard]] Bytes lee(std::string_view nombre) const;
 
     /// Puts the bytes in the place of the first bytes of the file, which is made where it is missing. What a
-    /// longer file holds behind them stays. After an error, also one that `bytes` raises, or a crash the file is
-    /// the old or the new one, whole.
+    /// longer file holds behind them stays. After an error, also an Error that `bytes` raises, or a crash the file is
+    /// the old or the new one, whole. `bytes` may be called again, where a first attempt was refused. Who implements
+    /// this says `using Ficheros::escribe_al_inicio`, so that the other one below is seen too.
     virtual void escribe_al_inicio(std::string_view nombre, const DaBytes& bytes) = 0;
 
     void escribe_al_inicio(std::string_view nombre, std::string_view bytes) {

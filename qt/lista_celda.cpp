@@ -64,6 +64,7 @@ void ListaCelda::oculta() {
 
 // The dropped list is a window with a view and much else that most tables never show: it is made here.
 void ListaCelda::showPopup() {
+    desplegada_ = true;
     view()->installEventFilter(this);
     sin_menu_en_barras(*view());
     QComboBox::showPopup();
@@ -112,7 +113,7 @@ bool ListaCelda::eventFilter(QObject* objeto, QEvent* e) {
 void ListaCelda::focusOutEvent(QFocusEvent* e) {
     QComboBox::focusOutEvent(e);
     // The dropped list takes the focus for itself.
-    const bool propia = view()->hasFocus();
+    const bool propia = desplegada_ && view()->hasFocus();
     mandos().lista_pierde_foco(propia ? MotivoFoco::Menu : motivo_de(e->reason()));
 }
 

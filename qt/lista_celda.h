@@ -39,6 +39,7 @@ private:
     [[nodiscard]] Mandos& mandos();
 
     VistaRejilla& vista_;
+    bool desplegada_ = false; // it was, once: its view is made
     bool tecleando_ = false; // an entry chosen now was chosen with a key
     QLabel* label1_; // the viewport's child, beside the list
 };

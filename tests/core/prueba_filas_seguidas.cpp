@@ -132,6 +132,23 @@ TEST_F(Filas_seguidas, un_texto_de_la_misma_fila_se_copia_aunque_tenga_que_crece
     }
 }
 
+TEST_F(Filas_seguidas, un_texto_de_la_fila_a_medias_se_copia_a_la_siguiente) {
+    llena_ancha_y_estrecha();
+    a.pon_texto(3, 1, a.texto(2, 2));
+    EXPECT_EQ(a.texto(3, 1), "2.2");
+    a.pon_texto(4, 5, a.texto(3, 1)); // beyond what the row above stores
+    EXPECT_EQ(a.texto(4, 5), "2.2");
+    espera(2, 2);
+}
+
+TEST_F(Filas_seguidas, una_fila_toma_los_textos_de_la_fila_a_medias) {
+    llena_ancha_y_estrecha();
+    EXPECT_TRUE(a.pon_fila(3, 1, std::vector<std::string_view>{a.texto(2, 2), a.texto(2, 1)}));
+    EXPECT_EQ(a.texto(3, 1), "2.2");
+    EXPECT_EQ(a.texto(3, 2), "2.1");
+    espera(2, 2);
+}
+
 TEST_F(Filas_seguidas, acepta_textos_largos_y_vacios_a_medio_llenar) {
     llena(1, 11);
     a.pon_texto(2, 1, "a");

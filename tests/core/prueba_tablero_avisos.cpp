@@ -63,22 +63,23 @@ TEST_F(Avisos_de_rejilla, filas_de_distinto_ancho_avisan_hasta_la_mas_ancha_que_
 }
 
 TEST_F(Avisos_de_rejilla, todas_las_celdas_de_una_vez) {
-    const auto celdas = [](int filas) {
-        AlmacenCeldas a;
-        a.pon_columnas(4);
-        a.pon_filas(filas);
-        a.numera();
-        a.pon_texto(2, 1, "dos");
-        return a;
-    };
+    AlmacenCeldas celdas;
+    celdas.pon_columnas(3);
+    celdas.pon_filas(5);
+    celdas.numera();
+    celdas.pon_texto(2, 1, "dos");
     t.TextMatrix(3, 1, "viejo");
+    t.ColWidth(1, 700);
+    t.selecciona(5, 3, 5, 3);
     vista.recoge();
-    EXPECT_EQ(de([&] { t.pon_celdas(celdas(6)); }), Avisos({"celdas 0 0 5 3"}));
+    EXPECT_EQ(de([&] { t.pon_celdas(std::move(celdas)); }), Avisos({"todo", "seleccion"}));
+    EXPECT_EQ(t.Rows(), 5);
+    EXPECT_EQ(t.Cols(), 3);
     EXPECT_EQ(t.TextMatrix(2, 1), "dos");
     EXPECT_EQ(t.TextMatrix(3, 1), "");
-    EXPECT_EQ(t.TextMatrix(5, 0), "5");
-    EXPECT_THROW(t.pon_celdas(celdas(5)), Error);
-    EXPECT_EQ(t.TextMatrix(2, 1), "dos");
+    EXPECT_EQ(t.TextMatrix(4, 0), "4");
+    EXPECT_EQ(t.ColWidth(1), 700);
+    EXPECT_EQ(t.seleccion(), (Bloque{4, 2, 4, 2}));
 }
 
 TEST_F(Avisos_de_rejilla, una_columna_que_se_transforma) {

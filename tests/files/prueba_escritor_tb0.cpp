@@ -100,6 +100,16 @@ TEST_F(PruebaEscritor, lo_que_no_se_podria_leer_no_se_escribe) {
     EXPECT_EQ(error_al_escribir(), 9);
 }
 
+TEST_F(PruebaEscritor, escrito_por_segunda_vez_no_se_dice_otra_vez_cuanto_va) {
+    m.pon_tamano(3, 10'000);
+    Avance avance(m.p.mensajes, "Guardando", 10'000);
+    m.p.registro.clear();
+    for (int vez = 0; vez < 2; ++vez)
+        escribe_tb0(
+            m.t(), "S", {}, [](std::string_view) {}, avance);
+    EXPECT_EQ(m.p.registro.size(), 99U); // the last row is the 9,999th of those 10,000
+}
+
 TEST_F(PruebaEscritor, muchas_filas_de_todos_los_largos_vuelven_iguales) {
     m.pon_tamano(26, 300);
     for (int fila = 0; fila < 300; ++fila)

@@ -3,12 +3,14 @@
 // an interrupted save leaves behind.
 #include "files/escritor_tb0.h"
 #include "files/tabla_fichero.h"
+#include "tests/core/memoria_que_falla.h"
 #include "tests/files/bytes_a_mano.h"
 #include "tests/files/mesa_ficheros.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <new>
 #include <string>
 
 namespace Qlt4_Tabla {
@@ -77,6 +79,36 @@ TEST_F(PruebaFichero, si_el_disco_falla_a_media_lectura_la_tabla_se_queda_como_e
         EXPECT_EQ(m.foto_entera(), antes) << legibles;
     }
     EXPECT_EQ(m.cambios, 0);
+}
+
+TEST_F(PruebaFichero, sin_memoria_la_tabla_se_queda_como_estaba_o_esta_leida_entera) {
+    m.pon_tamano(3, 300);
+    m.escribe(1, {"uno", std::string(300, 'L')});
+    static_cast<void>(m.graba("t"));
+    const std::string leidos = m.textos();
+    m.t().color_fondo({0, 1, 0, 2}, 0xFF);
+    int sin_cambio = 0;
+    for (long n = 0;; ++n) {
+        m.t().Rows(2);
+        m.t().TextMatrix(1, 1, "vieja");
+        const std::string antes = m.textos();
+        int numero = 7;
+        falla_tras(n);
+        try {
+            numero = m.lee("t");
+        } catch (const std::bad_alloc&) { // the members say that error 7
+        }
+        falla_tras(-1);
+        if (numero == 0) break;
+        ASSERT_EQ(numero, 7) << n;
+        if (m.textos() == antes)
+            ++sin_cambio;
+        else
+            ASSERT_EQ(m.textos(), leidos) << n;
+        ASSERT_TRUE(m.t().tiene_fondo(0, 2)) << n;
+    }
+    EXPECT_GT(sin_cambio, 10);
+    EXPECT_EQ(m.textos(), leidos);
 }
 
 TEST_F(PruebaFichero, la_cabecera_conserva_sus_colores_y_su_alto) {
@@ -301,6 +333,7 @@ TEST_F(PruebaFichero, lo_que_no_se_puede_escribir_no_toca_el_fichero) {
     m.e.Modificado = 1;
     m.t().Cols(27);
     EXPECT_EQ(m.graba("t"), 9);
+    EXPECT_EQ(m.graba("/otra/t"), 9); // said before the file is looked for
     m.t().Cols(3);
     m.t().TextMatrix(1, 1, std::string(65536, 'x'));
     EXPECT_EQ(m.graba("t"), 5);
