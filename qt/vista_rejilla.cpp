@@ -363,7 +363,11 @@ void VistaRejilla::mouseMoveEvent(QMouseEvent* e) {
 
 void VistaRejilla::timerEvent(QTimerEvent* e) {
     if (e->timerId() != arrastre_.timerId()) return QAbstractScrollArea::timerEvent(e);
-    if (QApplication::mouseButtons() == Qt::NoButton) // released where nobody told us
+    // Released where nobody told us, or a host that hears of the selection shows a dialog or a menu meanwhile.
+    const QWidget* const modal = QApplication::activeModalWidget();
+    const bool tapada =
+        QApplication::activePopupWidget() != nullptr || (modal != nullptr && modal != window());
+    if (QApplication::mouseButtons() == Qt::NoButton || tapada)
         arrastre_.stop();
     else
         tabla_.mandos().raton_mueve(arrastrado_.x(), arrastrado_.y());

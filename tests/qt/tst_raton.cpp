@@ -2,6 +2,7 @@
 // The mouse on the grid: selections, column widths, wheel, scroll bars.
 #include "tests/qt/mesa_qt.h"
 
+#include <QDialog>
 #include <QScrollBar>
 
 using namespace Qlt4_Tabla;
@@ -22,6 +23,7 @@ private slots:
     void el_boton_derecho_no_selecciona();
     void arrastrar_mas_alla_del_borde_desplaza();
     void parado_mas_alla_del_borde_sigue_desplazando_hasta_que_se_suelta();
+    void un_dialogo_encima_para_el_desplazamiento();
     void soltar_fuera_no_es_clic();
     void el_borde_de_una_columna_se_arrastra();
     void el_ancho_arrastrado_lo_lee_el_editor_de_columnas();
@@ -143,6 +145,22 @@ void TstRaton::parado_mas_alla_del_borde_sigue_desplazando_hasta_que_se_suelta()
     QTest::qWait(200);
     QCOMPARE(m.tablero().RowSel(), hasta);
     QCOMPARE(m.tablero().Row(), 3);
+}
+
+void TstRaton::un_dialogo_encima_para_el_desplazamiento() {
+    MesaQt m(200);
+    QWidget* v = m.vista->viewport();
+    manos::aprieta(*v, m.centro(3, NOMBRE));
+    const QPoint debajo(m.centro(3, NOMBRE).x(), v->height() + 5);
+    manos::mueve(*v, debajo);
+    QDialog encima;
+    encima.setModal(true);
+    encima.show();
+    const int fila = m.tablero().RowSel();
+    QTest::qWait(200);
+    QCOMPARE(m.tablero().RowSel(), fila);
+    encima.close();
+    manos::suelta(*v, debajo);
 }
 
 void TstRaton::soltar_fuera_no_es_clic() {
