@@ -76,6 +76,18 @@ Byte* pon_texto(Byte* destino, std::string_view texto) {
     return destino + n;
 }
 
+/// Bytes that may be read from the beginning of a text on, whatever they hold, and written at its destination,
+/// where `pon_texto_holgado` copies it.
+inline constexpr std::size_t TEXTO_HOLGADO = 16;
+
+/// The same where there is so much room: quicker, as most texts are shorter.
+inline char* pon_texto_holgado(char* destino, std::string_view texto) {
+    std::memcpy(destino, texto.data(), TEXTO_HOLGADO);
+    if (texto.size() > TEXTO_HOLGADO)
+        std::memcpy(destino + TEXTO_HOLGADO, texto.data() + TEXTO_HOLGADO, texto.size() - TEXTO_HOLGADO);
+    return destino + texto.size();
+}
+
 /// Takes the next bytes of a run; they are good until it returns.
 using TomaBytes = std::function<void(std::string_view)>;
 

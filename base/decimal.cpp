@@ -5,6 +5,7 @@
 #include "base/cifras.h"
 #include "base/error.h"
 #include "base/numeros.h"
+#include "base/ocho_bytes.h"
 
 #include <algorithm>
 #include <array>
@@ -42,8 +43,6 @@ std::uint64_t redondea(std::uint64_t cifras, int sobran) noexcept {
     return (cifras + divisor / 2) / divisor;
 }
 
-constexpr std::uint64_t en_cada_byte(std::uint64_t n) noexcept { return n * 0x0101010101010101U; }
-
 // The number of eight digits, one a byte, the first one lowest. Neighbours are put together three times: to pairs,
 // fours and the eight.
 constexpr std::uint64_t junta_ocho(std::uint64_t cifras) noexcept {
@@ -66,12 +65,10 @@ static_assert(
     junta_ocho(0x0807060504030201U) == 12'345'678 && separa_ocho(12'345'678) == 0x0807060504030201U);
 static_assert(junta_ocho(en_cada_byte(9)) == 99'999'999 && separa_ocho(99'999'999) == en_cada_byte(9));
 
-// Goes on with the digits that follow; where they end. By eights, where the first character is the lowest byte.
+// Goes on with the digits that follow; where they end. By eights.
 const char* lee_cifras(const char* p, const char* fin, std::uint64_t& cifras) noexcept {
-    while (std::endian::native == std::endian::little && fin - p >= 8) {
-        std::uint64_t w = 0;
-        std::memcpy(&w, p, 8);
-        w ^= en_cada_byte('0');
+    while (fin - p >= 8) {
+        const std::uint64_t w = lee_ocho(p) ^ en_cada_byte('0');
         const std::uint64_t ajenos = (w | (w + en_cada_byte(6))) & en_cada_byte(0xF0); // not 0 to 9
         const auto n = static_cast<unsigned>(std::countr_zero(ajenos)) / 8;
         if (n == 0) return p;

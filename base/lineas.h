@@ -3,12 +3,12 @@
 // Main names: Separadores, cierra_lineas.
 #pragma once
 
+#include "base/ocho_bytes.h"
 #include "base/publico.h"
 
 #include <bit>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -36,28 +36,20 @@ public:
 
 private:
     static constexpr std::size_t BLOQUE = 64;
+    static constexpr unsigned MAYOR = '\r'; // of the separators; few other characters are below it
 
     /// False at the end of the text.
     bool mira_bloque() {
         if (vistos_ == texto_.size()) return false;
         bloque_ = vistos_;
         std::size_t i = 0;
-        if (std::endian::native == std::endian::little && texto_.size() - bloque_ >= BLOQUE)
-            for (; i < BLOQUE; i += 8) marcas_ |= bajos_de_ocho(texto_.data() + bloque_ + i) << i;
+        if (texto_.size() - bloque_ >= BLOQUE)
+            for (; i < BLOQUE; i += 8)
+                marcas_ |= marcas_menores(lee_ocho(texto_.data() + bloque_ + i), MAYOR + 1) << i;
         for (; i < BLOQUE && bloque_ + i < texto_.size(); ++i)
             marcas_ |= std::uint64_t{es_separador(texto_[bloque_ + i])} << i;
         vistos_ += i;
         return true;
-    }
-
-    /// Of the eight bytes at `p`, the first one lowest, those below 14: a bit each.
-    static std::uint64_t bajos_de_ocho(const char* p) {
-        constexpr std::uint64_t UNOS = 0x0101010101010101U;
-        constexpr std::uint64_t ALTOS = UNOS * 0x80;
-        std::uint64_t w = 0;
-        std::memcpy(&w, p, 8);
-        const std::uint64_t bajos = ~(((w & ~ALTOS) + UNOS * (0x80 - 14)) | w) & ALTOS;
-        return (bajos >> 7U) * 0x0102040810204080U >> 56U;
     }
 
     std::string_view texto_;

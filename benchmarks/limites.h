@@ -54,7 +54,7 @@ inline void mide_limites(const Medidor& m, const std::string& grupo, int filas) 
     if (grupo == "fichero") {
         const FicheroPasajero fichero;
         std::string record = textos + std::string(static_cast<std::size_t>(filas) * 32, 'x');
-        m.una("graba", [&] { escribe_fichero(fichero.ruta(), record); });
+        fichero.mide(m, "graba", [&] { escribe_fichero(fichero.ruta(), record); });
         const std::size_t n = record.size();
         record = {};
         m.una("carga", [&] {

@@ -2,14 +2,17 @@
 // Cells to the clipboard: clipboard/copia.h.
 #include "clipboard/copia.h"
 
+#include "base/ocho_bytes.h"
 #include "clipboard/textos.h"
 #include "core/con_memoria.h"
 #include "core/reloj_de_arena.h"
 #include "core/sin_errores.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string_view>
 #include <utility>
@@ -33,9 +36,20 @@ public:
             p = pon_celda(p, celda);
             *p++ = '\t';
         }
-        p[-1] = '\r';
-        *p++ = '\n';
-        usados_ = static_cast<std::size_t>(p - bytes_.data());
+        acaba_linea(p);
+    }
+
+    /// The same for `n` cells (one or more), each once; those behind the texts are empty.
+    void pon_linea(const TextosSeguidos& textos, std::size_t n) {
+        char* p = sitio((LARGO + 1) * n + TEXTO_HOLGADO);
+        textos.recorre([&p, coma = coma_](std::string_view celda) {
+            char* const fin = pon_texto_holgado(p, celda);
+            if (coma) p[lugar_del_punto(celda)] = ',';
+            *fin = '\t';
+            p = fin + 1;
+        });
+        for (std::size_t i = textos.longitudes.size(); i < n; ++i) *p++ = '\t';
+        acaba_linea(p);
     }
 
     [[nodiscard]] Bytes acaba() && {
@@ -44,11 +58,26 @@ public:
     }
 
 private:
+    // In the place of the TAB before `p`.
+    void acaba_linea(char* p) {
+        p[-1] = '\r';
+        *p++ = '\n';
+        usados_ = static_cast<std::size_t>(p - bytes_.data());
+    }
+
     /// Room for so many bytes more.
     [[nodiscard]] char* sitio(std::size_t mas) {
         if (bytes_.capacity() - usados_ < mas)
             bytes_.reserve(std::max(usados_ + mas, bytes_.capacity() + bytes_.capacity() / 2));
         return bytes_.data() + usados_;
+    }
+
+    /// Where the first point stands, or the end. TEXTO_HOLGADO bytes can be read.
+    static std::size_t lugar_del_punto(std::string_view texto) {
+        if (texto.size() > TEXTO_HOLGADO) return std::min(texto.find('.'), texto.size());
+        static_assert(TEXTO_HOLGADO == 16);
+        return static_cast<std::size_t>(std::countr_zero(marcas_iguales(lee_ocho(texto.data()), '.') |
+            marcas_iguales(lee_ocho(texto.data() + 8), '.') << 8U | std::uint64_t{1} << texto.size()));
     }
 
     static char* pon_con_coma(char* p, std::string_view celda) {
@@ -70,13 +99,27 @@ private:
     std::size_t usados_ = 0;
 };
 
+/// The cells of a row as they lie, where they go into the block so; outside of the grid they are empty.
+std::optional<TextosSeguidos> fila_tal_cual(const Tablero& t, int fila, const Bloque& b, FormaCelda forma) {
+    if (fila >= t.Rows() || b.col2 >= t.Cols()) return TextosSeguidos{};
+    if (forma != FormaCelda::Sola || b.col1 == 0) return std::nullopt;
+    const std::optional<FilaSeguida> seguida = t.almacen().fila_seguida(fila);
+    if (!seguida) return std::nullopt;
+    return seguida->textos.tramo(
+        static_cast<std::size_t>(b.col1), static_cast<std::size_t>(b.col2 - b.col1) + 1);
+}
+
 Bytes bloque_en_texto(const Tablero& t, const Bloque& b, FormaCelda forma, bool coma, Avance avance) {
     if (b.col1 > b.col2) return {};
     std::vector<std::string_view> celdas(static_cast<std::size_t>(b.col2 - b.col1) + 1);
     TextoBloque texto(forma, coma);
     for (int fila = b.fila1; fila <= b.fila2; ++fila) {
-        if (fila < t.Rows() && b.col2 < t.Cols()) t.almacen().lee_fila(fila, b.col1, celdas);
-        texto.pon_linea(celdas);
+        if (const auto textos = fila_tal_cual(t, fila, b, forma)) {
+            texto.pon_linea(*textos, celdas.size());
+        } else {
+            t.almacen().lee_fila(fila, b.col1, celdas);
+            texto.pon_linea(celdas);
+        }
         avance.hasta(fila - b.fila1 + 1);
     }
     return std::move(texto).acaba();

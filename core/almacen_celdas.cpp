@@ -121,6 +121,17 @@ void AlmacenCeldas::lee_fila(int fila, int col, std::span<std::string_view> text
     for (std::string_view& t : textos) t = yo_->texto(celdas.siguiente(), fila, yo_->cifras);
 }
 
+std::optional<FilaSeguida> AlmacenCeldas::fila_seguida(int fila) const {
+    const LugarFila l = yo_->indice.busca(fila);
+    if (l.trozo->sin_textos()) return FilaSeguida{fila != 0 && l.trozo->numeradas(), {}};
+    const std::uint8_t* const p = l.trozo->bytes_de(l.i);
+    const CabeceraFila c = lee_cabecera(p);
+    if (c.largos()) return std::nullopt;
+    const std::uint8_t* const longitudes = p + c.bytes;
+    return FilaSeguida{fila != 0 && c.numerada(),
+        {{longitudes, c.columnas}, reinterpret_cast<const char*>(longitudes + c.columnas)}};
+}
+
 bool AlmacenCeldas::iguales(int fila1, int col1, int fila2, int col2) const {
     CifrasFila cifras1;
     CifrasFila cifras2;

@@ -8,6 +8,8 @@
 // and that of the bytes after it say that seven more bits of the count follow.
 #pragma once
 
+#include "base/bytes.h"
+
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -21,8 +23,9 @@ namespace Qlt4_Tabla {
 inline constexpr std::uint8_t LARGO = 255;
 /// Bytes of the handle of a text that stands apart.
 inline constexpr std::uint32_t BYTES_ASA = 4;
-/// Bytes that must be readable, whatever they hold, behind the last length of a row: sums read by eights.
-inline constexpr std::uint32_t RELLENO = 8;
+/// Bytes that must be readable, whatever they hold, behind the last length of a row (sums read by eights) and behind
+/// its last text (core/textos_seguidos.h).
+inline constexpr std::uint32_t RELLENO = TEXTO_HOLGADO;
 
 struct CabeceraFila {
     static constexpr std::uint8_t NUMERADA = 1;

@@ -7,13 +7,22 @@
 #include "files/texto_1252.h"
 
 #include <array>
+#include <charconv>
 #include <cstdint>
+#include <limits>
+#include <optional>
 #include <span>
 #include <utility>
 
 namespace Qlt4_Tabla {
 
 namespace {
+
+constexpr std::size_t CIFRAS_NUMERO = std::numeric_limits<int>::digits10 + 1;
+constexpr std::array<char, MAX_COLUMNAS * tb0::BYTES_LONGITUD> TEXTOS_VACIOS{};
+/// Bytes that a row takes at most whose texts are all short.
+constexpr std::size_t BYTES_FILA_SEGUIDA =
+    tb0::bytes_fila_minima(MAX_COLUMNAS) + MAX_COLUMNAS * LARGO + TEXTO_HOLGADO;
 
 class Escritor {
 public:
@@ -27,9 +36,7 @@ public:
     }
 
     void pon16(std::uint16_t n) {
-        char* const p = sitio();
-        p[0] = static_cast<char>(n & 0xFFU);
-        p[1] = static_cast<char>(n >> 8U);
+        escribe16(sitio(), n);
         usados_ += 2;
     }
 
@@ -47,6 +54,22 @@ public:
         usados_ += n;
     }
 
+    /// A row of so many columns; false, and nothing, unless all is ASCII. Room: BYTES_FILA_SEGUIDA.
+    bool pon_fila(int fila, std::size_t columnas, const FilaSeguida& seguida) {
+        const std::size_t antes = usados_;
+        pon_matriz(static_cast<std::int32_t>(columnas));
+        char* p = sitio();
+        const std::size_t primero = seguida.numerada ? 1 : 0;
+        if (seguida.numerada) p = escribe_numero(p, fila);
+        const TextosSeguidos textos = seguida.textos.tramo(primero, columnas);
+        const char* const fin = textos.recorre([&p](std::string_view t) { p = escribe_texto(p, t); });
+        const std::size_t vacios = columnas - primero - textos.longitudes.size();
+        p = pon_texto_holgado(p, {TEXTOS_VACIOS.data(), vacios * tb0::BYTES_LONGITUD});
+        const bool ascii = es_ascii({textos.inicio, fin});
+        usados_ = ascii ? static_cast<std::size_t>(p - bytes_.data()) : antes;
+        return ascii;
+    }
+
     void pon_matriz(std::int32_t elementos) {
         pon16(static_cast<std::uint16_t>(tb0::DIMENSIONES));
         pon32(elementos);
@@ -56,7 +79,24 @@ public:
     void entrega() { toma_(bytes_.vista().substr(0, std::exchange(usados_, 0))); }
 
 private:
-    static constexpr std::size_t PIEZA = std::size_t{1} << 17U;
+    static constexpr std::size_t PIEZA = std::size_t{1} << 19U;
+
+    static char* escribe16(char* p, std::uint16_t n) {
+        p[0] = static_cast<char>(n & 0xFFU);
+        p[1] = static_cast<char>(n >> 8U);
+        return p + 2;
+    }
+
+    static char* escribe_texto(char* p, std::string_view ascii) {
+        return pon_texto_holgado(escribe16(p, static_cast<std::uint16_t>(ascii.size())), ascii);
+    }
+
+    static char* escribe_numero(char* p, int numero) {
+        char* const cifras = p + tb0::BYTES_LONGITUD;
+        char* const fin = std::to_chars(cifras, cifras + CIFRAS_NUMERO, numero).ptr;
+        escribe16(p, static_cast<std::uint16_t>(fin - cifras));
+        return fin;
+    }
 
     [[nodiscard]] char* sitio() { return bytes_.data() + usados_; }
 
@@ -76,6 +116,14 @@ void pon_fila(Escritor& e, std::span<const std::string_view> textos) {
     e.asegura(bytes);
     e.pon_matriz(static_cast<std::int32_t>(textos.size()));
     for (const std::string_view t : textos) e.pon_texto(t);
+}
+
+/// A row whose texts need not be looked at one by one; false, and nothing, where they must.
+bool pon_fila_seguida(Escritor& e, const AlmacenCeldas& celdas, int fila) {
+    const std::optional<FilaSeguida> seguida = celdas.fila_seguida(fila);
+    if (!seguida) return false;
+    e.asegura(BYTES_FILA_SEGUIDA);
+    return e.pon_fila(fila, static_cast<std::size_t>(celdas.columnas()), *seguida);
 }
 
 void pon_formato(Escritor& e, const T_FormatoColumna& f) {
@@ -108,8 +156,10 @@ void escribe_tb0(const Tablero& tablero, std::string_view subtitulo, const T_For
     std::array<std::string_view, MAX_COLUMNAS> celdas;
     const std::span fila_entera(celdas.data(), static_cast<std::size_t>(columnas));
     for (int fila = 0; fila < filas; ++fila) {
-        tablero.almacen().lee_fila(fila, 0, fila_entera);
-        pon_fila(e, fila_entera);
+        if (!pon_fila_seguida(e, tablero.almacen(), fila)) {
+            tablero.almacen().lee_fila(fila, 0, fila_entera);
+            pon_fila(e, fila_entera);
+        }
         avance.hasta(fila);
     }
     const T_FormatoColumna vacio;

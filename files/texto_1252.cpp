@@ -5,6 +5,8 @@
 #include "base/pagina1252.h"
 #include "base/utf8.h"
 
+#include <array>
+
 namespace Qlt4_Tabla {
 
 namespace {
@@ -16,14 +18,20 @@ constexpr unsigned char PRIMERO_NO_ASCII = 0x80;
 
 bool es_ascii(std::string_view texto) {
     constexpr std::uint64_t ALTOS = 0x8080808080808080U;
+    constexpr std::size_t PASO = 16;
     std::uint64_t suma = 0;
-    std::uint64_t w = 0;
-    std::size_t i = 0;
-    for (; i + 8 <= texto.size(); i += 8) {
-        std::memcpy(&w, texto.data() + i, 8);
-        suma |= w;
+    const auto mira = [&suma, p = texto.data()](std::size_t i) {
+        std::array<std::uint64_t, 2> w{};
+        std::memcpy(w.data(), p + i, PASO);
+        suma |= w[0] | w[1];
+    };
+    const std::size_t n = texto.size();
+    if (n >= PASO) {
+        for (std::size_t i = 0; i + PASO < n; i += PASO) mira(i);
+        mira(n - PASO); // it may overlap the one before
+    } else {
+        for (const char c : texto) suma |= static_cast<unsigned char>(c);
     }
-    for (; i < texto.size(); ++i) suma |= static_cast<unsigned char>(texto[i]);
     return (suma & ALTOS) == 0;
 }
 

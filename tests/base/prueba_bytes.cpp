@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
 using namespace Qlt4_Tabla;
@@ -15,6 +16,18 @@ TEST(PonTexto, copia_textos_de_cualquier_longitud_y_nada_mas) {
         char* const fin = pon_texto(destino.data() + 1, std::string_view(letras).substr(0, n));
         EXPECT_EQ(fin, destino.data() + 1 + n);
         EXPECT_EQ(destino, '.' + letras.substr(0, n) + std::string(letras.size() - n + 1, '.'));
+    }
+}
+
+TEST(PonTexto, con_sitio_de_sobra_escribe_a_lo_sumo_hasta_donde_puede) {
+    const std::string letras = "0123456789abcdefghijklmnopqrstuvwxyz";
+    for (std::size_t n = 0; n <= letras.size() - TEXTO_HOLGADO; ++n) {
+        std::string destino(letras.size() + 1, '.');
+        const char* const fin = pon_texto_holgado(destino.data(), std::string_view(letras).substr(0, n));
+        EXPECT_EQ(fin, destino.data() + n);
+        EXPECT_EQ(destino.substr(0, n), letras.substr(0, n));
+        const std::size_t tocados = std::max(n, TEXTO_HOLGADO);
+        EXPECT_EQ(destino.substr(tocados), std::string(destino.size() - tocados, '.'));
     }
 }
 

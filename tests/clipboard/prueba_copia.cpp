@@ -2,6 +2,8 @@
 // Copy commands: every byte of the block, what is enabled, selected, shown and said.
 #include "tests/clipboard/mesa_portapapeles.h"
 
+#include <random>
+
 namespace Qlt4_Tabla {
 
 namespace {
@@ -138,6 +140,40 @@ TEST_F(Copia, un_bloque_largo_llega_entero) {
     }
     marca(1, 1, FILAS, 2);
     EXPECT_TRUE(copia() == esperado);
+}
+
+TEST_F(Copia, cualquier_bloque_de_una_tabla_al_azar_sale_como_dice_la_regla) {
+    std::mt19937 azar(7);
+    const auto menor = [&azar](int n) { return std::uniform_int_distribution<int>(0, n - 1)(azar); };
+    for (int vez = 0; vez < 40; ++vez) {
+        tabla(2 + menor(30), 2 + menor(30));
+        for (int n = menor(600); n > 0; --n) {
+            std::string texto;
+            for (int i = menor(menor(10) == 0 ? 300 : 24); i > 0; --i) texto += "0123456789-.x"[menor(13)];
+            pon(menor(t().Rows()), menor(t().Cols()), texto);
+        }
+        const int fila1 = menor(t().Rows());
+        const int col1 = menor(t().Cols());
+        const Bloque b{fila1, col1, fila1 + menor(t().Rows() - fila1), col1 + menor(t().Cols() - col1)};
+        for (const bool coma : {false, true}) {
+            std::string esperado;
+            for (int f = b.fila1; f <= b.fila2; ++f) {
+                for (int c = b.col1; c <= b.col2; ++c) {
+                    std::string texto(t().TextMatrix(f, c));
+                    if (const auto punto = texto.find('.'); coma && punto != std::string::npos)
+                        texto[punto] = ',';
+                    esperado += texto + (c < b.col2 ? "\t" : "\r\n");
+                }
+            }
+            ASSERT_TRUE(texto_de_bloque(t(), b, FormaCelda::Sola, coma).vista() == esperado) << vez;
+        }
+    }
+}
+
+TEST_F(Copia, las_filas_de_fuera_de_la_rejilla_no_aportan_nada) {
+    tabla(3, 3);
+    pega_en(1, 1, "a|b/c|d/");
+    EXPECT_EQ(texto_de_bloque(t(), {2, 1, 4, 2}, FormaCelda::Sola, false).vista(), "c\td\r\n\t\r\n\t\r\n");
 }
 
 TEST_F(Copia, una_rejilla_sin_celdas_no_aporta_nada) {

@@ -54,6 +54,7 @@ private:
     void compara_fila(int f) {
         std::vector<std::string_view> leida(static_cast<std::size_t>(modelo_.columnas));
         almacen_.lee_fila(f, 0, leida);
+        ASSERT_NO_FATAL_FAILURE(compara_seguida(f));
         ModeloCeldas::Fila& fila = modelo_.fila(f);
         for (int c = 0; c < modelo_.columnas; ++c) {
             ASSERT_EQ(leida[static_cast<std::size_t>(c)], modelo_.texto(f, c)) << f << "," << c;
@@ -64,6 +65,25 @@ private:
             ASSERT_EQ(almacen_.color_texto(f, c), fila.color_texto.contains(c) ? fila.color_texto[c] : 0);
         }
         ASSERT_EQ(almacen_.alto(f), fila.alto) << f;
+    }
+
+    // The row as it lies, which no row with a long text has.
+    void compara_seguida(int f) {
+        bool largos = false;
+        for (int c = 0; c < modelo_.columnas; ++c) largos = largos || modelo_.texto(f, c).size() >= LARGO;
+        const std::optional<FilaSeguida> seguida = almacen_.fila_seguida(f);
+        ASSERT_EQ(seguida.has_value(), !largos) << f;
+        if (!seguida) return;
+        std::vector<std::string> textos;
+        seguida->textos.recorre([&textos](std::string_view t) { textos.emplace_back(t); });
+        ASSERT_LE(textos.size(), static_cast<std::size_t>(modelo_.columnas)) << f;
+        textos.resize(static_cast<std::size_t>(modelo_.columnas));
+        if (seguida->numerada) {
+            ASSERT_EQ(textos.front(), "") << f;
+            textos.front() = std::to_string(f);
+        }
+        for (int c = 0; c < modelo_.columnas; ++c)
+            ASSERT_EQ(textos[static_cast<std::size_t>(c)], modelo_.texto(f, c)) << f << "," << c;
     }
 
     // A few cells of near rows in any order; a text that was read first still stands when the others were read.

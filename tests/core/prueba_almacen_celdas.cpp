@@ -117,6 +117,39 @@ TEST_F(Almacen, pon_fila_deja_las_celdas_de_los_lados) {
     EXPECT_EQ(fila, std::vector<std::string_view>({"", "v", "x", "", "v"}));
 }
 
+TEST_F(Almacen, un_tramo_de_los_textos_de_una_fila) {
+    pon_tamano(2, 6);
+    for (const int c : {1, 2, 4}) a.pon_texto(1, c, std::string(static_cast<std::size_t>(c), 'x'));
+    const auto longitudes = [this](std::size_t primero, std::size_t n) {
+        const TextosSeguidos tramo = a.fila_seguida(1)->textos.tramo(primero, n);
+        std::vector<std::size_t> bytes;
+        tramo.recorre([&bytes](std::string_view t) { bytes.push_back(t.size()); });
+        return bytes;
+    };
+    EXPECT_EQ(
+        longitudes(0, 9), (std::vector<std::size_t>{0, 1, 2, 0, 4})); // nothing stands behind the last text
+    EXPECT_EQ(longitudes(1, 3), (std::vector<std::size_t>{1, 2, 0}));
+    EXPECT_EQ(longitudes(4, 1), (std::vector<std::size_t>{4}));
+    EXPECT_EQ(longitudes(5, 1), std::vector<std::size_t>{});
+    EXPECT_EQ(longitudes(90, 2), std::vector<std::size_t>{});
+    EXPECT_EQ(*a.fila_seguida(1)->textos.tramo(2, 1).inicio, 'x');
+    EXPECT_EQ(a.fila_seguida(0)->textos.longitudes.size(), 0U);
+}
+
+TEST_F(Almacen, la_fila_0_no_muestra_numero_y_un_texto_largo_no_se_da_seguido) {
+    pon_tamano(3, 3);
+    a.numera();
+    EXPECT_FALSE(a.fila_seguida(0)->numerada);
+    EXPECT_TRUE(a.fila_seguida(2)->numerada);
+    a.pon_texto(2, 1, std::string(254, 'x'));
+    EXPECT_TRUE(a.fila_seguida(2)->numerada);
+    a.pon_texto(2, 2, std::string(255, 'x'));
+    EXPECT_FALSE(a.fila_seguida(2));
+    a.pon_texto(2, 2, "");
+    a.pon_texto(2, 0, "n");
+    EXPECT_FALSE(a.fila_seguida(2)->numerada);
+}
+
 // Row numbers
 
 TEST_F(Almacen, numera_da_su_numero_a_cada_fila_de_datos) {

@@ -1,13 +1,19 @@
 // SPDX-License-Identifier: MIT
 // The record byte for byte: small tables written out by hand beside what is written, and read back.
+#include "base/little_endian.h"
 #include "files/escritor_tb0.h"
 #include "files/lector_tb0.h"
+#include "files/texto_1252.h"
 #include "tests/core/mesa.h"
 #include "tests/files/bytes_a_mano.h"
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstdint>
+#include <random>
 #include <string>
+#include <string_view>
 
 namespace Qlt4_Tabla {
 
@@ -108,6 +114,49 @@ TEST_F(PruebaEscritor, escrito_por_segunda_vez_no_se_dice_otra_vez_cuanto_va) {
         escribe_tb0(
             m.t(), "S", {}, [](std::string_view) {}, avance);
     EXPECT_EQ(m.p.registro.size(), 99U); // the last row is the 9,999th of those 10,000
+}
+
+// The rule written plainly: every text by itself.
+std::string a_la_llana(const Tablero& t, std::string_view subtitulo) {
+    std::string todo;
+    const auto pon_con_longitud = [&todo](std::string_view texto) {
+        const std::string b = a_1252(texto);
+        pon16(todo, static_cast<std::uint16_t>(b.size()));
+        todo += b;
+    };
+    const auto pon_matriz = [&todo](int n) {
+        pon16(todo, std::uint16_t{1});
+        pon32(todo, static_cast<std::uint32_t>(n));
+        pon32(todo, std::uint32_t{0});
+    };
+    pon_con_longitud(subtitulo);
+    pon32(todo, static_cast<std::uint32_t>(t.Cols() - 1));
+    pon32(todo, static_cast<std::uint32_t>(t.Rows() - 1));
+    pon_matriz(t.Rows());
+    for (int fila = 0; fila < t.Rows(); ++fila) {
+        pon_matriz(t.Cols());
+        for (int col = 0; col < t.Cols(); ++col) pon_con_longitud(t.TextMatrix(fila, col));
+    }
+    return todo + std::string(416, '\0');
+}
+
+TEST_F(PruebaEscritor, tablas_al_azar_salen_como_dice_la_regla) {
+    const std::array<std::string, 4> letras{"1", "z", "ñ", "Ω"};
+    for (unsigned semilla = 0; semilla < 60; ++semilla) {
+        std::mt19937 azar(semilla);
+        const auto menor = [&azar](int n) { return std::uniform_int_distribution<int>(0, n - 1)(azar); };
+        Mesa mesa;
+        mesa.pon_tamano(1 + menor(26), 1 + menor(80));
+        const int raras = menor(3) == 0 ? 4 : 2; // without letters beyond ASCII in most tables
+        for (int n = menor(2000); n > 0; --n) {
+            std::string texto;
+            const int bytes = menor(10) == 0 ? menor(300) : menor(20);
+            const std::string& letra = letras[static_cast<std::size_t>(menor(40) == 0 ? menor(raras) : 0)];
+            for (int i = 0; i < bytes; ++i) texto += i % 7 == 3 ? letra : std::string("4");
+            mesa.t().TextMatrix(menor(mesa.t().Rows()), menor(mesa.t().Cols()), texto);
+        }
+        ASSERT_TRUE(bytes_tb0(mesa.t(), "S", {}) == a_la_llana(mesa.t(), "S")) << semilla;
+    }
 }
 
 TEST_F(PruebaEscritor, muchas_filas_de_todos_los_largos_vuelven_iguales) {
