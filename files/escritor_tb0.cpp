@@ -6,13 +6,14 @@
 #include "files/formato_tb0.h"
 #include "files/texto_1252.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstdint>
+#include <cstring>
 #include <limits>
 #include <optional>
 #include <span>
-#include <utility>
 
 namespace Qlt4_Tabla {
 
@@ -31,8 +32,8 @@ public:
     /// Room for so many bytes more, which the calls below then take without asking.
     void asegura(std::size_t mas) {
         if (usados_ + mas <= bytes_.size()) return;
-        entrega();
-        if (mas > bytes_.size()) bytes_.resize(mas);
+        entrega(usados_ / PIEZA * PIEZA);
+        bytes_.resize(std::max(bytes_.size(), usados_ + mas));
     }
 
     void pon16(std::uint16_t n) {
@@ -76,10 +77,18 @@ public:
         pon32(tb0::LIMITE_INFERIOR);
     }
 
-    void entrega() { toma_(bytes_.vista().substr(0, std::exchange(usados_, 0))); }
+    void acaba() { entrega(usados_); }
 
 private:
+    /// What is handed over at once, but for the end: written at whole multiples of their size, such pieces cost the
+    /// system least.
     static constexpr std::size_t PIEZA = std::size_t{1} << 19U;
+
+    void entrega(std::size_t bytes) {
+        toma_(bytes_.vista().substr(0, bytes));
+        usados_ -= bytes;
+        std::memmove(bytes_.data(), bytes_.data() + bytes, usados_);
+    }
 
     static char* escribe16(char* p, std::uint16_t n) {
         p[0] = static_cast<char>(n & 0xFFU);
@@ -101,7 +110,7 @@ private:
     [[nodiscard]] char* sitio() { return bytes_.data() + usados_; }
 
     const TomaBytes& toma_;
-    Bytes bytes_{PIEZA};
+    Bytes bytes_{PIEZA + BYTES_FILA_SEGUIDA};
     std::size_t usados_ = 0;
 };
 
@@ -165,7 +174,7 @@ void escribe_tb0(const Tablero& tablero, std::string_view subtitulo, const T_For
     const T_FormatoColumna vacio;
     for (std::size_t i = 0; i < tb0::FORMATOS; ++i)
         pon_formato(e, i == tb0::FORMATO_GUARDADO ? formato25 : vacio);
-    e.entrega();
+    e.acaba();
 }
 
 std::string bytes_tb0(const Tablero& tablero, std::string_view subtitulo, const T_FormatoColumna& formato25) {
