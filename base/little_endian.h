@@ -7,9 +7,11 @@
 
 #include "base/error.h"
 
+#include <bit>
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <type_traits>
 #include <utility>
 
@@ -53,8 +55,11 @@ template <class B>
 std::uint32_t lee(const B& origen, std::size_t pos, std::size_t bytes) {
     exige(origen, pos, bytes, NumError::FinDeFichero);
     std::uint32_t n = 0;
-    for (std::size_t i = 0; i < bytes; ++i)
-        n |= static_cast<std::uint32_t>(static_cast<std::uint8_t>(origen[pos + i])) << (8 * i);
+    if constexpr (std::endian::native == std::endian::little)
+        std::memcpy(&n, &origen[pos], bytes);
+    else
+        for (std::size_t i = 0; i < bytes; ++i)
+            n |= static_cast<std::uint32_t>(static_cast<std::uint8_t>(origen[pos + i])) << (8 * i);
     return n;
 }
 

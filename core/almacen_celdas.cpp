@@ -227,15 +227,15 @@ bool AlmacenCeldas::Interior::escribe_fila(int fila, int col, std::span<const st
     const std::array<std::uint8_t, 1 + RELLENO> sin_textos{
         l.trozo->numeradas() ? CabeceraFila::NUMERADA : std::uint8_t{0}};
     const auto vieja = l.trozo->sin_textos() ? std::span(sin_textos).first(1) : l.trozo->fila(l.i);
-    if (lee_cabecera(vieja.data()).largos() || std::any_of(textos.begin(), textos.end(), es_largo)) {
+    const auto columna = static_cast<std::uint32_t>(col);
+    const std::optional<std::size_t> cota = cota_fila(vieja, columna, textos);
+    if (!cota) {
         const std::vector<std::string> copias(textos.begin(), textos.end());
         bool cambia = false;
         for (const std::string& t : copias) cambia = escribe(fila, col++, t) || cambia;
         return cambia;
     }
-    const auto columna = static_cast<std::uint32_t>(col);
-    if (const std::size_t cota = cota_fila(vieja, columna, textos); fila_nueva.size() < cota)
-        fila_nueva.resize(cota);
+    if (fila_nueva.size() < *cota) fila_nueva.resize(*cota);
     const std::span nueva(fila_nueva.data(), compon_fila(fila_nueva.data(), vieja, columna, textos));
     if (std::equal(nueva.begin(), nueva.end(), vieja.begin(), vieja.end())) return false;
     const LugarFila d = indice.para_escribir(fila, nueva.size());

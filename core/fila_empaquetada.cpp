@@ -38,12 +38,16 @@ std::uint32_t suma_muchas(const std::uint8_t* longitudes, std::uint32_t n, bool 
     return suma + suma_pocas(longitudes, n);
 }
 
-std::size_t cota_fila(
+std::optional<std::size_t> cota_fila(
     std::span<const std::uint8_t> vieja, std::uint32_t col, std::span<const std::string_view> textos) {
     constexpr std::size_t CABECERA = 5; // the longest one
     std::size_t bytes = vieja.size() + CABECERA + col + textos.size();
-    for (const std::string_view t : textos) bytes += t.size();
-    return bytes;
+    bool largos = lee_cabecera(vieja.data()).largos();
+    for (const std::string_view t : textos) {
+        bytes += t.size();
+        largos |= es_largo(t);
+    }
+    return largos ? std::nullopt : std::optional(bytes);
 }
 
 std::uint8_t* compon_fila(std::uint8_t* destino, std::span<const std::uint8_t> vieja, std::uint32_t col,

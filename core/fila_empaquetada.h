@@ -14,6 +14,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -106,12 +107,13 @@ inline std::uint32_t escribe_cabecera(std::uint8_t* p, const CabeceraFila& c) {
     return n < 16 && !largos ? suma_hasta_15(longitudes, n) : suma_muchas(longitudes, n, largos);
 }
 
-/// Bytes that `compon_fila` may write at most.
-[[nodiscard]] std::size_t cota_fila(
+/// Bytes that `compon_fila` may write at most; none where one of the texts stands apart, and where one of the old
+/// ones does.
+[[nodiscard]] std::optional<std::size_t> cota_fila(
     std::span<const std::uint8_t> vieja, std::uint32_t col, std::span<const std::string_view> textos);
 
-/// Writes the row that `vieja` becomes with other texts from column `col` on; where it ends. None of the texts,
-/// old or new, stands apart. RELLENO bytes behind `vieja` must be readable.
+/// Writes the row that `vieja` becomes with other texts from column `col` on, for which there is a `cota_fila`; where
+/// it ends. RELLENO bytes behind `vieja` must be readable.
 std::uint8_t* compon_fila(std::uint8_t* destino, std::span<const std::uint8_t> vieja, std::uint32_t col,
     std::span<const std::string_view> textos);
 

@@ -17,15 +17,14 @@ void Reescritura::empieza(Trozo& t) {
 Escrita Reescritura::pon(int i, int col, std::span<const std::string_view> textos) {
     if (trozo_->sin_textos()) return Escrita::No;
     const auto vieja = trozo_->fila(i);
-    if (lee_cabecera(vieja.data()).largos() || std::any_of(textos.begin(), textos.end(), es_largo))
-        return Escrita::No;
+    const auto columna = static_cast<std::uint32_t>(col);
+    const std::optional<std::size_t> cota = cota_fila(vieja, columna, textos);
+    if (!cota) return Escrita::No;
     if (cuantas_ == 0) primera_ = i;
     for (int j = primera_ + static_cast<int>(cuantas_); j < i; ++j) deja(trozo_->fila(j));
-    const auto columna = static_cast<std::uint32_t>(col);
-    const std::size_t cota = cota_fila(vieja, columna, textos);
-    const bool cabe = trozo_->usados() + usados_ + cota <= Trozo::BYTES_BUENOS + viejos_ + vieja.size();
+    const bool cabe = trozo_->usados() + usados_ + *cota <= Trozo::BYTES_BUENOS + viejos_ + vieja.size();
     if (!cabe && trozo_->filas() > 1) return Escrita::No;
-    std::uint8_t* const nueva = sitio(cota);
+    std::uint8_t* const nueva = sitio(*cota);
     std::uint8_t* const fin = compon_fila(nueva, vieja, columna, textos);
     if (std::equal(vieja.begin(), vieja.end(), nueva, fin)) return Escrita::Igual;
     anota(vieja.size(), fin);

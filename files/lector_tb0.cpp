@@ -5,6 +5,8 @@
 #include "base/little_endian.h"
 #include "files/texto_1252.h"
 
+#include <cstring>
+
 namespace Qlt4_Tabla {
 
 const RegistroTb0& LectorTb0::cabeza() {
@@ -14,13 +16,16 @@ const RegistroTb0& LectorTb0::cabeza() {
     matriz(ParteTb0::DimensionesFilas, filas);
     registro_.filas = static_cast<std::int32_t>(filas); // as many as the 32 bits of the elements say
     caben_las_filas();
+    cambia16(matriz_, 0, static_cast<std::uint16_t>(tb0::DIMENSIONES));
+    cambia32(matriz_, 2, static_cast<std::uint32_t>(registro_.columnas));
+    cambia32(matriz_, 6, static_cast<std::uint32_t>(tb0::LIMITE_INFERIOR));
     return registro_;
 }
 
 // Most rows lie whole in the window; else more is brought, and what is still not whole is wrong.
 std::span<const std::string_view> LectorTb0::siguiente() {
     ++fila_;
-    matriz(ParteTb0::DimensionesFila, registro_.columnas);
+    pasa_matriz();
     std::size_t bytes = pasa_textos();
     while (bytes == 0 && ventana_.hay(ventana_.vista().size() + 1)) bytes = pasa_textos();
     if (bytes == 0)
@@ -101,17 +106,26 @@ void LectorTb0::caben_las_filas() const {
             registro_.filas - 1, static_cast<std::int64_t>(ventana_.quedan()));
 }
 
+/// The array that a row begins with.
+void LectorTb0::pasa_matriz() {
+    const bool buena = ventana_.hay(matriz_.size()) &&
+        std::memcmp(ventana_.vista().data(), matriz_.data(), matriz_.size()) == 0;
+    if (buena)
+        ventana_.pasa(matriz_.size());
+    else
+        matriz(ParteTb0::DimensionesFila, registro_.columnas); // says what is wrong
+}
+
 /// The texts of a row where they are all at hand, and the bytes they take; else 0, and nothing is passed.
 std::size_t LectorTb0::pasa_textos() {
     const std::string_view v = ventana_.vista();
-    const auto columnas = static_cast<std::size_t>(registro_.columnas);
     std::size_t pos = 0;
-    for (std::size_t c = 0; c < columnas; ++c) {
+    for (std::string_view& t : std::span(textos_).first(static_cast<std::size_t>(registro_.columnas))) {
         if (v.size() - pos < tb0::BYTES_LONGITUD) return 0;
         const std::size_t n = lee16(v, pos);
         pos += tb0::BYTES_LONGITUD;
         if (v.size() - pos < n) return 0;
-        textos_[c] = v.substr(pos, n);
+        t = {v.data() + pos, n};
         pos += n;
     }
     ventana_.pasa(pos);

@@ -101,6 +101,7 @@ private:
     void exige(ParteTb0 parte, std::int64_t hallado, std::size_t bytes, std::int64_t esperado) const;
     void matriz(ParteTb0 parte, std::int64_t elementos);
     void caben_las_filas() const;
+    void pasa_matriz();
     [[nodiscard]] std::size_t pasa_textos();
     T_FormatoColumna formato();
     void convierte();
@@ -109,6 +110,7 @@ private:
     RegistroTb0 registro_;
     std::int32_t fila_ = -1;
     std::int32_t col_ = -1;
+    std::array<char, tb0::BYTES_MATRIZ> matriz_{}; // what each row begins with
     std::array<std::string_view, MAX_COLUMNAS> textos_;
     std::string convertidos_; // the texts of a row that is not all ASCII
 };
