@@ -35,6 +35,9 @@ void mide_renumera(const Medidor& m, TablaMedida& c, int filas) {
 void mide_propias(const Medidor& m, int filas) {
     TablaMedida c;
     llena(c, filas);
+    std::size_t bytes = 0;
+    m.una("copia_comas", [&] { bytes = c.copia_con_comas(); });
+    exige(bytes == datos().bloque(filas, ',').size(), "not the whole block");
     int n = 0;
     m.varias("escribe", 2000, [&] {
         const int fila = static_cast<int>((n * 7919LL) % (filas - 1));

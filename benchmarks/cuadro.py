@@ -27,6 +27,7 @@ OBRAS = [
     ("lee", "read every cell as a view", "ms", 1),
     ("pega", "paste the block, commas to points, reals formatted", "ms", 1),
     ("copia", "copy the whole table to one text", "ms", 1),
+    ("copia_comas", "the same with decimal commas", "ms", 1),
     ("suma", "sum of two columns into a third, formatted", "ms", 1),
     ("resta", "difference of two columns into a third", "ms", 1),
     ("parcial", "difference of each row to the one above", "ms", 1),
@@ -54,7 +55,8 @@ OBRAS = [
     ("rueda_pintada", "scroll by 3 rows, painted", "ms", 1),
     ("arrastra_pintado", "drag a width, painted", "ms", 1),
     ("arranque_espera", "start to the first painted window, by the clock", "ms", 1),
-    ("arranque", "the same, processor time", "ms", 1),
+    ("arranque_letra_espera", "the same, limit: a window with one letter", "ms", 1),
+    ("arranque", "start, processor time", "ms", 1),
     ("arranque_letra", "the same, limit: a window with one letter", "ms", 1),
 ]
 

@@ -105,6 +105,13 @@ public:
         return portapapeles_.copiados;
     }
 
+    [[nodiscard]] std::size_t copia_con_comas() {
+        p_.separador.coma = true;
+        const std::size_t bytes = copia();
+        p_.separador.coma = false;
+        return bytes;
+    }
+
     void elige_todo() { tabla_.mandos().elige_bloque(1, 1, tabla_.Rows() - 1, COLUMNAS); }
 
     // As Enter on the last row does.

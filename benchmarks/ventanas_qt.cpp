@@ -171,7 +171,8 @@ void mide_arranque(const Medidor& m, QWidget& ventana, std::initializer_list<con
 }
 
 // The same work twice: the two have limits of their own.
-constexpr std::initializer_list<const char*> ARRANQUES = {"arranque_espera", "arranque", "arranque_letra"};
+constexpr std::initializer_list<const char*> ARRANQUES = {
+    "arranque_espera", "arranque_letra_espera", "arranque", "arranque_letra"};
 
 template <class V>
 void mide_vista(const Medidor& m, const std::string& grupo, int filas) {
@@ -198,7 +199,7 @@ void mide_desnuda(const Medidor& m, const std::string& grupo) {
         mide_arranque(m, ventana, {"arranque_espera", "arranque"});
     } else if (grupo == "arranque_letra") {
         ConLetra ventana;
-        mide_arranque(m, ventana, {"arranque_letra"});
+        mide_arranque(m, ventana, {"arranque_letra_espera", "arranque_letra"});
     } else {
         mide_limite(m);
     }
