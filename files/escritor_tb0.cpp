@@ -20,6 +20,7 @@ namespace Qlt4_Tabla {
 namespace {
 
 constexpr std::size_t CIFRAS_NUMERO = std::numeric_limits<int>::digits10 + 1;
+/// As many empty texts as a row can have.
 constexpr std::array<char, MAX_COLUMNAS * tb0::BYTES_LONGITUD> TEXTOS_VACIOS{};
 /// Bytes that a row takes at most whose texts are all short.
 constexpr std::size_t BYTES_FILA_SEGUIDA =
@@ -55,20 +56,20 @@ public:
         usados_ += n;
     }
 
-    /// A row of so many columns; false, and nothing, unless all is ASCII. Room: BYTES_FILA_SEGUIDA.
-    bool pon_fila(int fila, std::size_t columnas, const FilaSeguida& seguida) {
-        const std::size_t antes = usados_;
+    /// A row of so many columns. Takes up to BYTES_FILA_SEGUIDA.
+    void pon_fila(int fila, std::size_t columnas, const FilaSeguida& seguida) {
         pon_matriz(static_cast<std::int32_t>(columnas));
-        char* p = sitio();
         const std::size_t primero = seguida.numerada ? 1 : 0;
-        if (seguida.numerada) p = escribe_numero(p, fila);
+        if (seguida.numerada) pasa_a(escribe_numero(sitio(), fila));
         const TextosSeguidos textos = seguida.textos.tramo(primero, columnas);
+        char* p = sitio();
         const char* const fin = textos.recorre([&p](std::string_view t) { p = escribe_texto(p, t); });
+        if (!es_ascii({textos.inicio, fin})) { // once more, text by text
+            textos.recorre([this](std::string_view t) { pon_texto(t); });
+            p = sitio();
+        }
         const std::size_t vacios = columnas - primero - textos.longitudes.size();
-        p = pon_texto_holgado(p, {TEXTOS_VACIOS.data(), vacios * tb0::BYTES_LONGITUD});
-        const bool ascii = es_ascii({textos.inicio, fin});
-        usados_ = ascii ? static_cast<std::size_t>(p - bytes_.data()) : antes;
-        return ascii;
+        pasa_a(pon_texto_holgado(p, {TEXTOS_VACIOS.data(), vacios * tb0::BYTES_LONGITUD}));
     }
 
     void pon_matriz(std::int32_t elementos) {
@@ -107,6 +108,8 @@ private:
         return fin;
     }
 
+    void pasa_a(const char* p) { usados_ = static_cast<std::size_t>(p - bytes_.data()); }
+
     [[nodiscard]] char* sitio() { return bytes_.data() + usados_; }
 
     const TomaBytes& toma_;
@@ -125,14 +128,6 @@ void pon_fila(Escritor& e, std::span<const std::string_view> textos) {
     e.asegura(bytes);
     e.pon_matriz(static_cast<std::int32_t>(textos.size()));
     for (const std::string_view t : textos) e.pon_texto(t);
-}
-
-/// A row whose texts need not be looked at one by one; false, and nothing, where they must.
-bool pon_fila_seguida(Escritor& e, const AlmacenCeldas& celdas, int fila) {
-    const std::optional<FilaSeguida> seguida = celdas.fila_seguida(fila);
-    if (!seguida) return false;
-    e.asegura(BYTES_FILA_SEGUIDA);
-    return e.pon_fila(fila, static_cast<std::size_t>(celdas.columnas()), *seguida);
 }
 
 void pon_formato(Escritor& e, const T_FormatoColumna& f) {
@@ -165,7 +160,10 @@ void escribe_tb0(const Tablero& tablero, std::string_view subtitulo, const T_For
     std::array<std::string_view, MAX_COLUMNAS> celdas;
     const std::span fila_entera(celdas.data(), static_cast<std::size_t>(columnas));
     for (int fila = 0; fila < filas; ++fila) {
-        if (!pon_fila_seguida(e, tablero.almacen(), fila)) {
+        if (const auto seguida = tablero.almacen().fila_seguida(fila)) {
+            e.asegura(BYTES_FILA_SEGUIDA);
+            e.pon_fila(fila, fila_entera.size(), *seguida);
+        } else {
             tablero.almacen().lee_fila(fila, 0, fila_entera);
             pon_fila(e, fila_entera);
         }
