@@ -49,6 +49,15 @@ void ensancha(MesaQt& m, int col, int px) {
     manos::arrastra(*m.vista->viewport(), borde_derecho(m, col), borde_derecho(m, col) + QPoint(px, 0));
 }
 
+// A selection is dragged from row 3 to below the cells and held there.
+QPoint arrastra_debajo(MesaQt& m) {
+    QWidget* v = m.vista->viewport();
+    const QPoint debajo(m.centro(3, NOMBRE).x(), v->height() + 5);
+    manos::aprieta(*v, m.centro(3, NOMBRE));
+    manos::mueve(*v, debajo);
+    return debajo;
+}
+
 } // namespace
 
 void TstRaton::un_clic_lleva_la_celda() {
@@ -120,9 +129,8 @@ void TstRaton::el_boton_derecho_no_selecciona() {
 void TstRaton::arrastrar_mas_alla_del_borde_desplaza() {
     MesaQt m(200);
     QWidget* v = m.vista->viewport();
-    manos::aprieta(*v, m.centro(3, NOMBRE));
-    const QPoint debajo(m.centro(3, NOMBRE).x(), v->height() + 5);
-    for (int i = 0; i < 4; ++i) manos::mueve(*v, debajo + QPoint(i, 0));
+    const QPoint debajo = arrastra_debajo(m);
+    for (int i = 1; i < 4; ++i) manos::mueve(*v, debajo + QPoint(i, 0));
     manos::suelta(*v, debajo);
     QVERIFY(m.tablero().TopRow() > 1);
     QCOMPARE(m.tablero().Row(), 3);
@@ -135,9 +143,7 @@ void TstRaton::arrastrar_mas_alla_del_borde_desplaza() {
 void TstRaton::parado_mas_alla_del_borde_sigue_desplazando_hasta_que_se_suelta() {
     MesaQt m(200);
     QWidget* v = m.vista->viewport();
-    manos::aprieta(*v, m.centro(3, NOMBRE));
-    const QPoint debajo(m.centro(3, NOMBRE).x(), v->height() + 5);
-    manos::mueve(*v, debajo);
+    const QPoint debajo = arrastra_debajo(m);
     const int fila = m.tablero().RowSel();
     QTRY_VERIFY(m.tablero().RowSel() >= fila + 3);
     manos::suelta(*v, debajo);
@@ -150,9 +156,7 @@ void TstRaton::parado_mas_alla_del_borde_sigue_desplazando_hasta_que_se_suelta()
 void TstRaton::un_dialogo_encima_para_el_desplazamiento() {
     MesaQt m(200);
     QWidget* v = m.vista->viewport();
-    manos::aprieta(*v, m.centro(3, NOMBRE));
-    const QPoint debajo(m.centro(3, NOMBRE).x(), v->height() + 5);
-    manos::mueve(*v, debajo);
+    const QPoint debajo = arrastra_debajo(m);
     QDialog encima;
     encima.setModal(true);
     encima.show();
