@@ -9,11 +9,10 @@
 #pragma once
 
 #include "base/bytes.h"
+#include "base/ocho_bytes.h"
 
-#include <bit>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <optional>
 #include <span>
 #include <string_view>
@@ -79,18 +78,11 @@ inline std::uint32_t escribe_cabecera(std::uint8_t* p, const CabeceraFila& c) {
 
 /// Sum of the first `n` length bytes, at most 7; reads 8.
 [[nodiscard]] inline std::uint32_t suma_pocas(const std::uint8_t* longitudes, std::uint32_t n) {
-    std::uint32_t suma = 0;
-    if constexpr (std::endian::native == std::endian::little) {
-        constexpr std::uint64_t PARES = 0x00FF00FF00FF00FFU;
-        constexpr std::uint64_t UNOS = 0x0001000100010001U;
-        std::uint64_t w = 0;
-        std::memcpy(&w, longitudes, 8);
-        w = w << (56U - 8U * n) << 8U; // in two steps, as n may be 0
-        suma = static_cast<std::uint32_t>((((w & PARES) + ((w >> 8U) & PARES)) * UNOS) >> 48U);
-    } else {
-        while (n-- != 0) suma += *longitudes++;
-    }
-    return suma;
+    constexpr std::uint64_t PARES = 0x00FF00FF00FF00FFU;
+    constexpr std::uint64_t UNOS = 0x0001000100010001U;
+    // In two steps, as n may be 0.
+    const std::uint64_t w = lee_ocho(reinterpret_cast<const char*>(longitudes)) << (56U - 8U * n) << 8U;
+    return static_cast<std::uint32_t>((((w & PARES) + ((w >> 8U) & PARES)) * UNOS) >> 48U);
 }
 
 /// Sum of the first `n` length bytes, at most 15; reads 8, or 16 where `n` is more than 7.

@@ -28,7 +28,11 @@ constexpr std::size_t BYTES_FILA_SEGUIDA =
 
 class Escritor {
 public:
-    explicit Escritor(const TomaBytes& toma) : toma_(toma) {}
+    /// Of a table of so many columns.
+    Escritor(const TomaBytes& toma, int columnas)
+        : toma_(toma),
+          columnas_(static_cast<std::size_t>(columnas)),
+          fila_(tb0::principio_matriz(columnas)) {}
 
     /// Room for so many bytes more, which the calls below then take without asking.
     void asegura(std::size_t mas) {
@@ -56,26 +60,27 @@ public:
         usados_ += n;
     }
 
-    /// A row of so many columns. Takes up to BYTES_FILA_SEGUIDA.
-    void pon_fila(int fila, std::size_t columnas, const FilaSeguida& seguida) {
-        pon_matriz(static_cast<std::int32_t>(columnas));
+    /// Takes BYTES_MATRIZ.
+    void empieza_fila() { pon_matriz(fila_); }
+
+    /// A row. Takes up to BYTES_FILA_SEGUIDA.
+    void pon_fila(int fila, const FilaSeguida& seguida) {
+        empieza_fila();
         const std::size_t primero = seguida.numerada ? 1 : 0;
         if (seguida.numerada) pasa_a(escribe_numero(sitio(), fila));
-        const TextosSeguidos textos = seguida.textos.tramo(primero, columnas);
+        const TextosSeguidos textos = seguida.textos.tramo(primero, columnas_);
         char* p = sitio();
         const char* const fin = textos.recorre([&p](std::string_view t) { p = escribe_texto(p, t); });
         if (!es_ascii({textos.inicio, fin})) { // once more, text by text
             textos.recorre([this](std::string_view t) { pon_texto(t); });
             p = sitio();
         }
-        const std::size_t vacios = columnas - primero - textos.longitudes.size();
+        const std::size_t vacios = columnas_ - primero - textos.longitudes.size();
         pasa_a(pon_texto_holgado(p, {TEXTOS_VACIOS.data(), vacios * tb0::BYTES_LONGITUD}));
     }
 
-    void pon_matriz(std::int32_t elementos) {
-        pon16(static_cast<std::uint16_t>(tb0::DIMENSIONES));
-        pon32(elementos);
-        pon32(tb0::LIMITE_INFERIOR);
+    void pon_matriz(const std::array<char, tb0::BYTES_MATRIZ>& principio) {
+        pasa_a(std::copy(principio.begin(), principio.end(), sitio()));
     }
 
     void acaba() { entrega(usados_); }
@@ -113,6 +118,8 @@ private:
     [[nodiscard]] char* sitio() { return bytes_.data() + usados_; }
 
     const TomaBytes& toma_;
+    std::size_t columnas_;
+    std::array<char, tb0::BYTES_MATRIZ> fila_; // what each row begins with
     Bytes bytes_{PIEZA + BYTES_FILA_SEGUIDA};
     std::size_t usados_ = 0;
 };
@@ -126,7 +133,7 @@ void pon_fila(Escritor& e, std::span<const std::string_view> textos) {
     std::size_t bytes = tb0::bytes_fila_minima(textos.size());
     for (const std::string_view t : textos) bytes += t.size();
     e.asegura(bytes);
-    e.pon_matriz(static_cast<std::int32_t>(textos.size()));
+    e.empieza_fila();
     for (const std::string_view t : textos) e.pon_texto(t);
 }
 
@@ -151,18 +158,18 @@ void escribe_tb0(const Tablero& tablero, std::string_view subtitulo, const T_For
     exige_tb0(tablero);
     const int filas = tablero.Rows();
     const int columnas = tablero.Cols();
-    Escritor e(toma);
+    Escritor e(toma, columnas);
     pon_con_sitio(e, subtitulo);
     e.asegura(2 * tb0::BYTES_CUENTA + tb0::BYTES_MATRIZ);
     e.pon32(columnas - 1);
     e.pon32(filas - 1);
-    e.pon_matriz(filas);
+    e.pon_matriz(tb0::principio_matriz(filas));
     std::array<std::string_view, MAX_COLUMNAS> celdas;
     const std::span fila_entera(celdas.data(), static_cast<std::size_t>(columnas));
     for (int fila = 0; fila < filas; ++fila) {
         if (const auto seguida = tablero.almacen().fila_seguida(fila)) {
             e.asegura(BYTES_FILA_SEGUIDA);
-            e.pon_fila(fila, fila_entera.size(), *seguida);
+            e.pon_fila(fila, *seguida);
         } else {
             tablero.almacen().lee_fila(fila, 0, fila_entera);
             pon_fila(e, fila_entera);

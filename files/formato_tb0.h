@@ -3,8 +3,10 @@
 // Main names: namespace tb0. Written by files/escritor_tb0.h, read by files/lector_tb0.h.
 #pragma once
 
+#include "base/little_endian.h"
 #include "core/formato_columna.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 
@@ -24,6 +26,15 @@ inline constexpr std::size_t BYTES_CUENTA = 4;
 inline constexpr std::int16_t DIMENSIONES = 1;
 inline constexpr std::int32_t LIMITE_INFERIOR = 0;
 inline constexpr std::size_t BYTES_MATRIZ = 10;
+
+/// What an array of so many elements begins with.
+[[nodiscard]] inline std::array<char, BYTES_MATRIZ> principio_matriz(std::int32_t elementos) {
+    std::array<char, BYTES_MATRIZ> bytes{};
+    cambia16(bytes, 0, static_cast<std::uint16_t>(DIMENSIONES));
+    cambia32(bytes, 2, static_cast<std::uint32_t>(elementos));
+    cambia32(bytes, 6, static_cast<std::uint32_t>(LIMITE_INFERIOR));
+    return bytes;
+}
 
 /// Column formats in the record; all but the last are written empty, and only the last is read.
 inline constexpr std::size_t FORMATOS = MAX_COLUMNAS;

@@ -16,9 +16,7 @@ const RegistroTb0& LectorTb0::cabeza() {
     matriz(ParteTb0::DimensionesFilas, filas);
     registro_.filas = static_cast<std::int32_t>(filas); // as many as the 32 bits of the elements say
     caben_las_filas();
-    cambia16(matriz_, 0, static_cast<std::uint16_t>(tb0::DIMENSIONES));
-    cambia32(matriz_, 2, static_cast<std::uint32_t>(registro_.columnas));
-    cambia32(matriz_, 6, static_cast<std::uint32_t>(tb0::LIMITE_INFERIOR));
+    matriz_ = tb0::principio_matriz(registro_.columnas);
     return registro_;
 }
 

@@ -5,8 +5,6 @@
 #include "base/pagina1252.h"
 #include "base/utf8.h"
 
-#include <array>
-
 namespace Qlt4_Tabla {
 
 namespace {
@@ -17,14 +15,10 @@ constexpr unsigned char PRIMERO_NO_ASCII = 0x80;
 } // namespace
 
 bool es_ascii(std::string_view texto) {
-    constexpr std::uint64_t ALTOS = 0x8080808080808080U;
     constexpr std::size_t PASO = 16;
     std::uint64_t suma = 0;
-    const auto mira = [&suma, p = texto.data()](std::size_t i) {
-        std::array<std::uint64_t, 2> w{};
-        std::memcpy(w.data(), p + i, PASO);
-        suma |= w[0] | w[1];
-    };
+    const auto mira = [&suma, p = texto.data()](
+                          std::size_t i) { suma |= lee_ocho(p + i) | lee_ocho(p + i + 8); };
     const std::size_t n = texto.size();
     if (n >= PASO) {
         for (std::size_t i = 0; i + PASO < n; i += PASO) mira(i);
@@ -32,7 +26,7 @@ bool es_ascii(std::string_view texto) {
     } else {
         for (const char c : texto) suma |= static_cast<unsigned char>(c);
     }
-    return (suma & ALTOS) == 0;
+    return (suma & en_cada_byte(0x80)) == 0;
 }
 
 std::size_t a_1252_letra_a_letra(std::string_view texto, char* destino) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "base/bytes.h"
+#include "base/ocho_bytes.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -15,7 +16,6 @@ namespace Qlt4_Tabla {
 
 /// Copies `n` bytes; true when all are ASCII.
 inline bool copia_ascii(char* destino, const char* origen, std::size_t n) {
-    constexpr std::uint64_t ALTOS = 0x8080808080808080U;
     std::uint64_t suma = 0;
     std::uint64_t w = 0;
     const auto pasa = [&](std::size_t i, std::size_t cuantos) {
@@ -33,7 +33,7 @@ inline bool copia_ascii(char* destino, const char* origen, std::size_t n) {
         pasa(n / 2, 1);
         pasa(n - 1, 1);
     }
-    return (suma & ALTOS) == 0;
+    return (suma & en_cada_byte(0x80)) == 0;
 }
 
 [[nodiscard]] bool es_ascii(std::string_view texto);
